@@ -1,0 +1,19 @@
+# Header-only libraries of the build machine, behind a folder of their own: a cross build may not
+# see the rest of the build machine's headers.
+set(TQCIM_HEADER_LIBRARIES ${PROJECT_BINARY_DIR}/header-libraries)
+file(MAKE_DIRECTORY ${TQCIM_HEADER_LIBRARIES})
+foreach(library CLI nlohmann)
+  find_path(TQCIM_${library}_PARENT NAMES ${library}/${library}.hpp ${library}/json.hpp
+            PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+  file(CREATE_LINK ${TQCIM_${library}_PARENT}/${library} ${TQCIM_HEADER_LIBRARIES}/${library}
+       SYMBOLIC)
+endforeach()
+add_library(header_libraries INTERFACE)
+target_include_directories(header_libraries SYSTEM INTERFACE ${TQCIM_HEADER_LIBRARIES})
+
+# GoogleTest is built from Debian's sources with the flags of each build.
+set(TQCIM_GOOGLETEST_SOURCES /usr/src/googletest CACHE PATH "GoogleTest's sources")
+add_subdirectory(${TQCIM_GOOGLETEST_SOURCES} ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+foreach(target gtest gtest_main gmock gmock_main)
+  target_compile_options(${target} PRIVATE -w)
+endforeach()

@@ -1,0 +1,242 @@
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+#include "platform/wmi.h"
+#include "tests/platform/com_thread.h"
+#include "tests/platform/counted_object.h"
+
+namespace {
+
+using tqcim::testing::ComOnThread;
+using tqcim::testing::CountedObject;
+using tqcim::testing::OnNewThread;
+
+constexpr CLSID kClass = {0x3D2A60B1, 0x7C40, 0x4E55, {0x8A, 0x01, 1, 2, 3, 4, 5, 6}};
+
+/// Hands out one object and counts its own references.
+class Factory : public IClassFactory {
+ public:
+  explicit Factory(IUnknown* product) : product_(product) {}
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+    *object = iid == IID_IUnknown || iid == IID_IClassFactory ? this : nullptr;
+    if (*object == nullptr) return E_NOINTERFACE;
+    AddRef();
+    return S_OK;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() override { return --references_; }
+  HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** object) override {
+    *object = nullptr;
+    if (outer != nullptr) return CLASS_E_NOAGGREGATION;
+    return product_->QueryInterface(iid, object);
+  }
+  HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
+
+  ULONG References() const { return references_; }
+
+ private:
+  IUnknown* product_;
+  std::atomic<ULONG> references_ = 0;
+};
+
+HRESULT Register(IUnknown* factory, DWORD* cookie) {
+  return CoRegisterClassObject(kClass, factory, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, cookie);
+}
+
+HRESULT Create(void** object) {
+  return CoCreateInstance(kClass, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, object);
+}
+
+TEST(ClassActivation, ARegisteredClassIsCreatedByItsFactory) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject product;
+    Factory factory(&product);
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    EXPECT_NE(0u, cookie);
+    EXPECT_EQ(1u, factory.References());
+    void* object = nullptr;
+    EXPECT_EQ(S_OK, Create(&object));
+    EXPECT_EQ(static_cast<IUnknown*>(&product), object);
+    EXPECT_EQ(1u, product.References());
+    EXPECT_EQ(1u, factory.References());
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+    EXPECT_EQ(0u, factory.References());
+  });
+}
+
+TEST(ClassActivation, TheClassObjectIsTheRegisteredFactory) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject product;
+    Factory factory(&product);
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    void* object = nullptr;
+    EXPECT_EQ(S_OK,
+              CoGetClassObject(kClass, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, &object));
+    EXPECT_EQ(static_cast<IClassFactory*>(&factory), object);
+    EXPECT_EQ(2u, factory.References());
+    factory.Release();
+    EXPECT_EQ(E_NOINTERFACE,
+              CoGetClassObject(kClass, CLSCTX_INPROC_SERVER, nullptr, IID_IWbemServices, &object));
+    EXPECT_EQ(nullptr, object);
+    EXPECT_EQ(1u, factory.References());
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+  });
+}
+
+TEST(ClassActivation, TheFactorysRefusalIsTheResult) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject product;
+    Factory factory(&product);
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    void* object = &object;
+    EXPECT_EQ(E_NOINTERFACE,
+              CoCreateInstance(kClass, nullptr, CLSCTX_INPROC_SERVER, IID_IWbemLocator, &object));
+    EXPECT_EQ(nullptr, object);
+    EXPECT_EQ(1u, factory.References());
+    EXPECT_EQ(0u, product.References());
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+  });
+}
+
+TEST(ClassActivation, AnUnknownClassIsNotRegistered) {
+  OnNewThread([] {
+    const ComOnThread com;
+    void* object = &object;
+    EXPECT_EQ(REGDB_E_CLASSNOTREG, Create(&object));
+    EXPECT_EQ(nullptr, object);
+    object = &object;
+    EXPECT_EQ(REGDB_E_CLASSNOTREG,
+              CoGetClassObject(kClass, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, &object));
+    EXPECT_EQ(nullptr, object);
+  });
+}
+
+TEST(ClassActivation, ARevokedClassIsNotRegistered) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject product;
+    Factory factory(&product);
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    ASSERT_EQ(S_OK, CoRevokeClassObject(cookie));
+    void* object = nullptr;
+    EXPECT_EQ(REGDB_E_CLASSNOTREG, Create(&object));
+    EXPECT_EQ(E_INVALIDARG, CoRevokeClassObject(cookie));
+  });
+}
+
+TEST(ClassActivation, OneOfTheAskedContextsIsEnough) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject product;
+    Factory factory(&product);
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    void* object = nullptr;
+    EXPECT_EQ(S_OK, CoCreateInstance(kClass, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
+                                     IID_IUnknown, &object));
+    EXPECT_EQ(1u, product.References());
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+  });
+}
+
+TEST(ClassActivation, NeedsCom) {
+  OnNewThread([] {
+    CountedObject product;
+    Factory factory(&product);
+    DWORD cookie = 0;
+    EXPECT_EQ(CO_E_NOTINITIALIZED, Register(&factory, &cookie));
+    EXPECT_EQ(0u, factory.References());
+    void* object = &object;
+    EXPECT_EQ(CO_E_NOTINITIALIZED, Create(&object));
+    EXPECT_EQ(nullptr, object);
+    EXPECT_EQ(CO_E_NOTINITIALIZED, CoRevokeClassObject(1));
+  });
+}
+
+TEST(ClassActivation, AThreadWithoutComUsesTheMultithreadedApartment) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject product;
+    Factory factory(&product);
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    OnNewThread([&] {
+      void* object = nullptr;
+      EXPECT_EQ(S_OK, Create(&object));
+      EXPECT_EQ(static_cast<IUnknown*>(&product), object);
+    });
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+  });
+}
+
+TEST(ClassActivation, TheEndOfComRevokesEveryClass) {
+  OnNewThread([] {
+    CountedObject product;
+    Factory factory(&product);
+    {
+      const ComOnThread com;
+      DWORD cookie = 0;
+      ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    }
+    EXPECT_EQ(0u, factory.References());
+    const ComOnThread com;
+    void* object = nullptr;
+    EXPECT_EQ(REGDB_E_CLASSNOTREG, Create(&object));
+  });
+}
+
+TEST(ClassActivation, NullIsRefused) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject product;
+    Factory factory(&product);
+    DWORD cookie = 0;
+    EXPECT_EQ(E_INVALIDARG, Register(nullptr, &cookie));
+    EXPECT_EQ(E_INVALIDARG, Register(&factory, nullptr));
+    EXPECT_EQ(E_POINTER, Create(nullptr));
+    EXPECT_EQ(E_INVALIDARG,
+              CoGetClassObject(kClass, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, nullptr));
+  });
+}
+
+TEST(ClassActivation, ManyThreadsMayActivateAtOnce) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject unused;
+    Factory product(&unused);
+    Factory factory(&product);
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    std::atomic<int> created = 0;
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 8; ++i) {
+      threads.emplace_back([&] {
+        for (int round = 0; round < 200; ++round) {
+          const ComOnThread comOfThread;
+          void* object = nullptr;
+          if (Create(&object) != S_OK) continue;
+          static_cast<IUnknown*>(object)->Release();
+          ++created;
+        }
+      });
+    }
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQ(1600, created);
+    EXPECT_EQ(0u, product.References());
+    EXPECT_EQ(1u, factory.References());
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+  });
+}
+
+}  // namespace

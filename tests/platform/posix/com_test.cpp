@@ -1,0 +1,70 @@
+// What this platform, without a registry or other processes, settles by itself.
+#include <gtest/gtest.h>
+
+#include "platform/wmi.h"
+#include "tests/platform/com_thread.h"
+#include "tests/platform/counted_object.h"
+
+namespace {
+
+using tqcim::testing::ComOnThread;
+using tqcim::testing::CountedObject;
+using tqcim::testing::OnNewThread;
+
+constexpr CLSID kClass = {0x3D2A60B1, 0x7C40, 0x4E55, {0x8A, 0x01, 1, 2, 3, 4, 5, 7}};
+
+TEST(ClassActivation, AClassIsServedInItsContextOnly) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject factory;
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
+                                          REGCLS_MULTIPLEUSE, &cookie));
+    void* object = &object;
+    EXPECT_EQ(REGDB_E_CLASSNOTREG,
+              CoGetClassObject(kClass, CLSCTX_LOCAL_SERVER, nullptr, IID_IUnknown, &object));
+    EXPECT_EQ(nullptr, object);
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+  });
+}
+
+TEST(ClassActivation, AClassIsRegisteredOnce) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject factory;
+    DWORD cookie = 0;
+    DWORD second = 0;
+    ASSERT_EQ(S_OK, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
+                                          REGCLS_MULTIPLEUSE, &cookie));
+    EXPECT_EQ(CO_E_OBJISREG, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
+                                                   REGCLS_MULTIPLEUSE, &second));
+    EXPECT_EQ(1u, factory.References());
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+    EXPECT_EQ(S_OK, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
+                                          REGCLS_MULTIPLEUSE, &second));
+    EXPECT_NE(cookie, second);
+    EXPECT_EQ(S_OK, CoRevokeClassObject(second));
+  });
+}
+
+TEST(ClassActivation, OtherRegistrationFlagsAreRefused) {
+  OnNewThread([] {
+    const ComOnThread com;
+    CountedObject factory;
+    DWORD cookie = 0;
+    EXPECT_EQ(E_INVALIDARG,
+              CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER, 0, &cookie));
+    EXPECT_EQ(0u, factory.References());
+  });
+}
+
+TEST(ComInitialisation, ReservedArgumentHasToBeNull) {
+  OnNewThread([] {
+    int something = 0;
+    EXPECT_EQ(E_INVALIDARG, CoInitializeEx(&something, COINIT_MULTITHREADED));
+    EXPECT_EQ(S_OK, CoInitializeEx(nullptr, COINIT_MULTITHREADED));
+    CoUninitialize();
+  });
+}
+
+}  // namespace
