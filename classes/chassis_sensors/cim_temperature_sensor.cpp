@@ -1,0 +1,23 @@
+#include "classes/chassis_sensors/handlers.h"
+#include "classes/chassis_sensors/threshold_sensor.h"
+#include "platform/layouts/probes.h"
+
+namespace tqcim {
+namespace {
+
+constexpr ThresholdSensorClass kClass{layout::probe::kTemperatureType,
+                                      OLESTR("CIM_TemperatureSensor")};
+
+}  // namespace
+
+HRESULT CIM_TemperatureSensor::EnumerateInstances(IWbemClassObject* classDefinition,
+                                                  IWbemObjectSink* sink) {
+  return EnumerateThresholdSensors(kClass, classDefinition, sink);
+}
+
+HRESULT CIM_TemperatureSensor::GetInstance(IWbemClassObject* classDefinition,
+                                           IWbemPathKeyList* keys, IWbemObjectSink* sink) {
+  return GetThresholdSensor(kClass, classDefinition, keys, sink);
+}
+
+}  // namespace tqcim

@@ -1,0 +1,35 @@
+/// Numeric probes as CIM sensors: what the four sensor classes and the power-consumption sensors
+/// share.
+#pragma once
+
+#include <cstdint>
+
+#include "core/base_class.h"
+#include "core/instance.h"
+#include "core/store_access.h"
+
+namespace tqcim {
+
+/// Puts reading, thresholds, name, status and keys of a probe. Readings and thresholds pass as the
+/// store holds them. The `DeviceID` is outer * 100 + inner in decimal.
+void PutThresholdSensorProperties(Instance& instance, const DataObject& probe,
+                                  const OLECHAR* className, uint32_t inner, uint32_t outer);
+
+/// One of the four sensor classes.
+struct ThresholdSensorClass {
+  uint16_t objectType;
+  const OLECHAR* className;
+};
+
+/// Delivers every probe of the class's type; the result of the last delivery.
+HRESULT EnumerateThresholdSensors(const ThresholdSensorClass& sensorClass,
+                                  IWbemClassObject* classDefinition, IWbemObjectSink* sink);
+
+/// Delivers the probe that the `DeviceID` key finds. The whole number counts as position in the
+/// first chassis: past its end the walk stops at the first probe of the next chassis, so that "105"
+/// gives probe "100". Clients rely on a lookup that never fails there.
+HRESULT GetThresholdSensor(const ThresholdSensorClass& sensorClass,
+                           IWbemClassObject* classDefinition, IWbemPathKeyList* keys,
+                           IWbemObjectSink* sink);
+
+}  // namespace tqcim

@@ -1,0 +1,34 @@
+/// Reading the keys of a parsed object path.
+#pragma once
+
+#include "core/com.h"
+
+namespace tqcim {
+
+/// What makes a key's value a text. Classes differ in where they look.
+enum class TextKey {
+  kByApparentType,  ///< the path's own view of the value: CIM string
+  kByVariant,       ///< the VARIANT that holds the value: VT_BSTR
+};
+
+/// A key that was looked for. `status` is that of the last call to the key list: a class that finds
+/// no key returns it. A read that fails ends the search.
+struct PathKey {
+  HRESULT status;
+  bool found;
+  Variant value;
+};
+
+/// The first key of that name (any case) whose value is a text.
+PathKey FindTextKey(IWbemPathKeyList* keys, const OLECHAR* name, TextKey kind);
+
+/// The first key of that name (any case), whatever its value.
+PathKey FindKey(IWbemPathKeyList* keys, const OLECHAR* name);
+
+/// The first key, whatever its name and value.
+PathKey FirstKey(IWbemPathKeyList* keys);
+
+/// The number that a key's value holds: a 32-bit integer, or the number that its text begins with.
+int32_t NumberOf(const Variant& value);
+
+}  // namespace tqcim
