@@ -28,7 +28,7 @@ int32_t ActionOf(uint32_t storeCode) {
 void PutWatchdogProperties(Instance& instance, const DataObject& object, uint16_t) {
   constexpr uint32_t kMicrosecondsPerSecond = 1'000'000;
   constexpr int32_t kTimerResolution = 10'000'000;
-  constexpr int32_t kOtherEntity = 8;
+  constexpr int32_t kServiceProcessor = 8;
   constexpr int32_t kEnabled = 2;
   constexpr int32_t kNotEnabled = 1;
   const int32_t action = ActionOf(object[watchdog::kExpiryAction]);
@@ -36,7 +36,7 @@ void PutWatchdogProperties(Instance& instance, const DataObject& object, uint16_
   instance.Put(OLESTR("TimeoutInterval"),
                Variant::Int32(object[watchdog::kTimeoutSeconds] * kMicrosecondsPerSecond));
   instance.Put(OLESTR("TimerResolution"), Variant::Int32(kTimerResolution));
-  instance.Put(OLESTR("MonitoredEntity"), Variant::Int32(kOtherEntity));
+  instance.Put(OLESTR("MonitoredEntity"), Variant::Int32(kServiceProcessor));
   instance.Put(OLESTR("MonitoredEntityDescription"),
                Variant::Text(OLESTR("Vorn KX Instrumentation service")));
   instance.Put(OLESTR("ActionOnExpiration"), Variant::Int32(action));
