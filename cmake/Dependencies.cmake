@@ -10,10 +10,3 @@ foreach(library CLI nlohmann)
 endforeach()
 add_library(header_libraries INTERFACE)
 target_include_directories(header_libraries SYSTEM INTERFACE ${TQCIM_HEADER_LIBRARIES})
-
-# GoogleTest is built from Debian's sources with the flags of each build.
-set(TQCIM_GOOGLETEST_SOURCES /usr/src/googletest CACHE PATH "GoogleTest's sources")
-add_subdirectory(${TQCIM_GOOGLETEST_SOURCES} ${PROJECT_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
-foreach(target gtest gtest_main gmock gmock_main)
-  target_compile_options(${target} PRIVATE -w)
-endforeach()

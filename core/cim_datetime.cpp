@@ -12,7 +12,7 @@ bool Between(int low, int value, int high) {
   return low <= value && value <= high;
 }
 
-/// Whether the platform's formatter defines a text for the time.
+/// Whether the time has a text of the full width.
 bool IsCalendarTime(const std::tm& time) {
   return Between(-1900, time.tm_year, 8099) && Between(0, time.tm_mon, 11) &&
          Between(1, time.tm_mday, 31) && Between(0, time.tm_hour, 23) &&
@@ -38,7 +38,8 @@ SupportText FormatCimDateTime(const std::tm* time) {
   SupportText text(static_cast<char*>(SMAllocMem(kTextSize)));
   if (!text) return {};
   ReadTimeZone();
-  std::strftime(text.get(), kDateSize, "%Y%m%d%H%M%S.000000", time);
+  std::snprintf(text.get(), kDateSize, "%04d%02d%02d%02d%02d%02d.000000", time->tm_year + 1900,
+                time->tm_mon + 1, time->tm_mday, time->tm_hour, time->tm_min, time->tm_sec);
   const double minutes = UtcOffsetMinutes();
   char offset[5] = {};
   std::snprintf(offset, sizeof offset, minutes < 0 ? "%04f" : "+%03f", minutes);

@@ -2,12 +2,9 @@
 
 namespace {
 
+/// The handlers go with the class registry when the module does.
 __attribute__((constructor)) void Attach() {
   tqcim::AttachModule();
-}
-
-__attribute__((destructor)) void Detach() {
-  tqcim::DetachModule();
 }
 
 }  // namespace

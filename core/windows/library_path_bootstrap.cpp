@@ -41,6 +41,8 @@ void Report(const char* message) {
 
 /// The value of an environment variable, and its size with the terminator; null where it is unset.
 Text NTDelayLoadGetEnv(const char* name, size_t* size) {
+  // Some runtime libraries call an unset variable a failure.
+  if (std::getenv(name) == nullptr) return nullptr;
   size_t needed = 0;
   int result = getenv_s(&needed, nullptr, 0, name);
   if (result != 0) {

@@ -1,0 +1,102 @@
+#include "host/activation.h"
+
+#include <algorithm>
+
+#include "host/management_host.h"
+#include "host/result_sink.h"
+#include "host/text.h"
+
+namespace tqcim::host {
+namespace {
+
+[[noreturn]] void RefuseSchema(const std::string& reason) {
+  throw HostError(HostError::Kind::kSchema, "the schema cannot be served: " + reason);
+}
+
+Value PropertyOf(const DeclaredInstance& instance, std::string_view name) {
+  for (const auto& [property, value] : instance.properties) {
+    if (EqualNames(property, name)) return value;
+  }
+  return {};
+}
+
+const DeclaredInstance* FindInstance(const Schema& schema, std::string_view class_name,
+                                     std::string_view property, const Value& value) {
+  const auto& instances = schema.Instances();
+  const auto found =
+      std::find_if(instances.begin(), instances.end(), [&](const DeclaredInstance& instance) {
+        return EqualNames(instance.class_name, class_name) &&
+               (property.empty() || PropertyOf(instance, property) == value);
+      });
+  return found == instances.end() ? nullptr : &*found;
+}
+
+/// The name of the provider that all served classes share.
+std::string SharedProvider(const Schema& schema) {
+  std::string name;
+  for (const ClassDefinition& definition : schema.Classes()) {
+    if (definition.provider.empty()) continue;
+    if (!name.empty() && definition.provider != name) {
+      RefuseSchema("its classes name two providers, " + name + " and " + definition.provider);
+    }
+    name = definition.provider;
+  }
+  if (name.empty()) RefuseSchema("none of its classes names a provider");
+  return name;
+}
+
+[[noreturn]] void RefuseModule(const std::string& reason, HRESULT result) {
+  throw HostError(HostError::Kind::kModule,
+                  "the provider module " + reason + ": " + ResultText(result));
+}
+
+/// Initialises the provider; its status comes through the sink.
+void Initialise(IWbemProviderInit& init, Namespace& name_space) {
+  const ComPtr<InitSink> sink(new InitSink);
+  WideText name = ToWide(kNamespace);
+  const HRESULT called =
+      init.Initialize(nullptr, 0, name.data(), nullptr, &name_space, nullptr, sink.get());
+  if (FAILED(called)) RefuseModule("cannot be initialised", called);
+  const HRESULT status = sink->Status().value_or(kProviderFailure);
+  if (FAILED(status)) RefuseModule("cannot be initialised", status);
+}
+
+}  // namespace
+
+ProviderRegistration FindRegistration(const Schema& schema) {
+  ProviderRegistration registration;
+  registration.name = SharedProvider(schema);
+  const DeclaredInstance* provider =
+      FindInstance(schema, "__Win32Provider", "Name", registration.name);
+  if (!provider) RefuseSchema("provider " + registration.name + " is not registered");
+  const Value clsid = PropertyOf(*provider, "CLSID");
+  const auto* text = std::get_if<std::string>(&clsid);
+  if (!text || FAILED(CLSIDFromString(ToWide(*text).c_str(), &registration.clsid))) {
+    RefuseSchema("provider " + registration.name + " has no CLSID");
+  }
+  const DeclaredInstance* supports = FindInstance(schema, "__InstanceProviderRegistration", {}, {});
+  if (!supports || PropertyOf(*supports, "SupportsGet") != Value(true) ||
+      PropertyOf(*supports, "SupportsEnumeration") != Value(true)) {
+    RefuseSchema("provider " + registration.name +
+                 " is not registered to get and to enumerate instances");
+  }
+  return registration;
+}
+
+ActiveProvider::ActiveProvider(const std::filesystem::path& module,
+                               const ProviderRegistration& registration, Namespace& name_space)
+    : module_(module) {
+  void* object = nullptr;
+  HRESULT result = module_.GetClassObject(registration.clsid, IID_IClassFactory, &object);
+  if (FAILED(result)) RefuseModule("gives no class factory", result);
+  factory_.reset(static_cast<IClassFactory*>(object));
+  result = factory_->CreateInstance(nullptr, IID_IWbemProviderInit, &object);
+  if (FAILED(result)) RefuseModule("makes no provider", result);
+  init_.reset(static_cast<IWbemProviderInit*>(object));
+  Initialise(*init_, name_space);
+  result = init_->QueryInterface(IID_IWbemServices, &object);
+  if (FAILED(result)) RefuseModule("has a provider that serves no instances", result);
+  services_.reset(static_cast<IWbemServices*>(object));
+}
+
+}  // namespace tqcim::host

@@ -1,0 +1,34 @@
+/// A delivered instance as plain values.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/schema.h"
+#include "host/value.h"
+
+namespace tqcim::host {
+
+/// One property of a delivered instance.
+struct Property {
+  std::string name;  ///< as declared
+  CimType type;      ///< as declared
+  bool array = false;
+  bool key = false;
+  bool put = false;  ///< whether the provider put it (a null may have been put, too)
+  Value value;
+};
+
+/// One delivered instance; a copy that outlives the host.
+struct Instance {
+  std::string class_name;
+  std::string path;                    ///< relative object path, "CLASS.KEY=\"...\",..."
+  std::vector<Property> properties;    ///< every declared property, in the class's order
+  std::vector<std::string> put_order;  ///< names in the order in which the provider put them
+
+  /// The property of that name in any case, or null.
+  const Property* Find(std::string_view property) const;
+};
+
+}  // namespace tqcim::host

@@ -1,0 +1,248 @@
+#include "host/mof_lexer.h"
+
+#include <charconv>
+
+#include "host/text.h"
+
+namespace tqcim::host {
+namespace {
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+bool IsHexDigit(char c) {
+  return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
+bool IsIdentifierStart(char c) {
+  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+}
+
+/// The value of a number's digits: decimal, 0x... hexadecimal, 0... octal, ...b binary. Nothing if
+/// they are not a number, or too large for 64 bits.
+bool ReadInteger(std::string_view digits, bool negative, MofToken& token) {
+  int base = 10;
+  if (digits.size() > 2 && digits[0] == '0' && (digits[1] == 'x' || digits[1] == 'X')) {
+    digits.remove_prefix(2);
+    base = 16;
+  } else if (digits.ends_with('b') || digits.ends_with('B')) {
+    digits.remove_suffix(1);
+    base = 2;
+  } else if (digits.size() > 1 && digits[0] == '0') {
+    base = 8;
+  }
+  uint64_t magnitude = 0;
+  const auto [end, error] =
+      std::from_chars(digits.data(), digits.data() + digits.size(), magnitude, base);
+  if (error != std::errc() || end != digits.data() + digits.size()) return false;
+  constexpr uint64_t kLargest = INT64_MAX;
+  if (negative) {
+    if (magnitude > kLargest + 1) return false;
+    token.number = static_cast<int64_t>(0 - magnitude);
+  } else if (magnitude > kLargest) {
+    token.number = magnitude;
+  } else {
+    token.number = static_cast<int64_t>(magnitude);
+  }
+  return true;
+}
+
+std::string AsUtf8(char32_t character) {
+  const OLECHAR unit = static_cast<OLECHAR>(character);
+  return ToUtf8(WideView(&unit, 1));
+}
+
+}  // namespace
+
+MofError::MofError(const MofPlace& place, const std::string& reason)
+    : std::runtime_error(*place.file + ":" + std::to_string(place.line) + ":" +
+                         std::to_string(place.column) + ": " + reason) {}
+
+bool MofToken::IsWord(std::string_view keyword) const {
+  return kind == Kind::kIdentifier && EqualNames(text, keyword);
+}
+
+std::string MofToken::Describe() const {
+  switch (kind) {
+    case Kind::kIdentifier:
+    case Kind::kPunctuation:
+      return "'" + text + "'";
+    case Kind::kText:
+      return "a text";
+    case Kind::kCharacter:
+      return "a character";
+    case Kind::kInteger:
+    case Kind::kReal:
+      return "a number";
+    case Kind::kEnd:
+      break;
+  }
+  return "the end of the text";
+}
+
+MofLexer::MofLexer(const std::string& file, std::string_view text) : text_(text) {
+  place_.file = &file;
+  if (text_.starts_with("\xEF\xBB\xBF")) text_.remove_prefix(3);
+}
+
+void MofLexer::Advance() {
+  if (text_[position_] == '\n') {
+    ++place_.line;
+    place_.column = 1;
+  } else {
+    ++place_.column;
+  }
+  ++position_;
+}
+
+void MofLexer::SkipBlanks() {
+  while (!AtEnd()) {
+    const char c = Peek();
+    if (c == ' ' || c == '\t' || c == '\r' || c == '\n') {
+      Advance();
+    } else if (c == '/' && (Peek(1) == '/' || Peek(1) == '*')) {
+      SkipComment();
+    } else {
+      return;
+    }
+  }
+}
+
+void MofLexer::SkipComment() {
+  if (Peek(1) == '/') {
+    while (!AtEnd() && Peek() != '\n') Advance();
+    return;
+  }
+  const MofPlace start = place_;
+  Advance();
+  Advance();
+  while (!(Peek() == '*' && Peek(1) == '/')) {
+    if (AtEnd()) throw MofError(start, "the comment is not closed");
+    Advance();
+  }
+  Advance();
+  Advance();
+}
+
+MofToken MofLexer::Next() {
+  SkipBlanks();
+  MofToken token;
+  token.place = place_;
+  if (AtEnd()) return token;
+  const char c = Peek();
+  if (IsIdentifierStart(c)) return Identifier(std::move(token));
+  if (IsDigit(c) || ((c == '+' || c == '-' || c == '.') && IsDigit(Peek(1)))) {
+    return Number(std::move(token));
+  }
+  if (c == '"') {
+    token.kind = MofToken::Kind::kText;
+    while (Peek() == '"') {
+      token.text += QuotedText('"');
+      SkipBlanks();
+    }
+    return token;
+  }
+  if (c == '\'') {
+    token.kind = MofToken::Kind::kCharacter;
+    const WideText characters = ToWide(QuotedText('\''));
+    if (characters.size() != 1) {
+      throw MofError(token.place, "between single quotes stands one character");
+    }
+    token.number = static_cast<int64_t>(characters[0]);
+    return token;
+  }
+  if (std::string_view("[]{}():;,=#$").find(c) == std::string_view::npos) {
+    throw MofError(token.place, "a character that MOF has no use for");
+  }
+  token.kind = MofToken::Kind::kPunctuation;
+  token.text = c;
+  Advance();
+  return token;
+}
+
+MofToken MofLexer::Identifier(MofToken token) {
+  token.kind = MofToken::Kind::kIdentifier;
+  while (IsIdentifierStart(Peek()) || IsDigit(Peek())) {
+    token.text += Peek();
+    Advance();
+  }
+  return token;
+}
+
+MofToken MofLexer::Number(MofToken token) {
+  const bool negative = Peek() == '-';
+  if (negative || Peek() == '+') Advance();
+  std::string digits;
+  bool real = false;
+  while (IsIdentifierStart(Peek()) || IsDigit(Peek()) || Peek() == '.' ||
+         ((Peek() == '+' || Peek() == '-') && real && (digits.back() | 0x20) == 'e')) {
+    real = real || Peek() == '.';
+    digits += Peek();
+    Advance();
+  }
+  if (real) {
+    token.kind = MofToken::Kind::kReal;
+    double value = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+    if (error == std::errc() && end == digits.data() + digits.size()) {
+      token.number = negative ? -value : value;
+      return token;
+    }
+  } else {
+    token.kind = MofToken::Kind::kInteger;
+    if (ReadInteger(digits, negative, token)) return token;
+  }
+  throw MofError(token.place, "'" + digits + "' is not a number that fits 64 bits");
+}
+
+std::string MofLexer::QuotedText(char quote) {
+  const MofPlace start = place_;
+  Advance();
+  std::string text;
+  while (Peek() != quote) {
+    if (AtEnd() || Peek() == '\n') throw MofError(start, "the text is not closed on its line");
+    if (Peek() == '\\') {
+      text += AsUtf8(EscapedCharacter());
+    } else {
+      text += Peek();
+      Advance();
+    }
+  }
+  Advance();
+  return text;
+}
+
+char32_t MofLexer::EscapedCharacter() {
+  const MofPlace start = place_;
+  Advance();
+  const char c = Peek();
+  if (!AtEnd()) Advance();
+  switch (c) {
+    case 'b':
+      return '\b';
+    case 't':
+      return '\t';
+    case 'n':
+      return '\n';
+    case 'f':
+      return '\f';
+    case 'r':
+      return '\r';
+    case '"':
+    case '\'':
+    case '\\':
+      return static_cast<unsigned char>(c);
+    default:
+      break;
+  }
+  std::string digits;
+  while ((c == 'x' || c == 'X') && digits.size() < 4 && IsHexDigit(Peek())) {
+    digits += Peek();
+    Advance();
+  }
+  if (digits.empty()) throw MofError(start, "MOF has no such escape");
+  uint32_t value = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
+  return value;
+}
+
+}  // namespace tqcim::host

@@ -1,0 +1,67 @@
+#include "host/name_space.h"
+
+#include "host/class_object.h"
+#include "host/text.h"
+
+namespace tqcim::host {
+
+bool IsInNamespace(const ObjectPath& path, std::string_view computer_name) {
+  const bool local =
+      path.server.empty() || path.server == "." || EqualNames(path.server, computer_name);
+  return local && (path.namespaces.empty() || EqualNames(path.Namespace(), kNamespace));
+}
+
+std::string ComputerName() {
+  char name[MAX_COMPUTERNAME_LENGTH + 1] = {};
+  DWORD size = sizeof(name);
+  return GetComputerNameA(name, &size) ? std::string(name, size) : std::string();
+}
+
+HRESULT Namespace::QueryInterface(REFIID riid, void** object) {
+  if (!object) return E_POINTER;
+  const bool known = riid == IID_IUnknown || riid == IID_IWbemServices;
+  *object = known ? static_cast<IWbemServices*>(this) : nullptr;
+  if (!known) return E_NOINTERFACE;
+  AddRef();
+  return S_OK;
+}
+
+HRESULT Namespace::GetObject(BSTR path, LONG flags, IWbemContext*, IWbemClassObject** object,
+                             IWbemCallResult**) {
+  if (!path || !object) return kInvalidParameter;
+  *object = nullptr;
+  if (flags != 0) return kNotSupported;
+  ObjectPath parsed;
+  try {
+    parsed = ParseObjectPath(ToUtf8(path));
+  } catch (const PathError&) {
+    return kInvalidObjectPath;
+  }
+  if (parsed.class_name.empty() || !IsInNamespace(parsed, ComputerName())) {
+    return kInvalidObjectPath;
+  }
+  if (parsed.NamesInstance()) return kNotSupported;
+  const ClassDefinition* definition = schema_->Find(parsed.class_name);
+  if (!definition) return kNotFound;
+  *object = ClassObject::Definition(schema_, *definition).release();
+  return S_OK;
+}
+
+HRESULT Locator::ConnectServer(BSTR resource, BSTR, BSTR, BSTR, LONG, BSTR, IWbemContext*,
+                               IWbemServices** services) {
+  if (!resource || !services) return kInvalidParameter;
+  *services = nullptr;
+  ObjectPath path;
+  try {
+    path = ParseObjectPath(ToUtf8(resource));
+  } catch (const PathError&) {
+    return kInvalidNamespace;
+  }
+  const bool right = path.class_name.empty() && IsInNamespace(path, ComputerName());
+  if (!right) return kInvalidNamespace;
+  name_space_->AddRef();
+  *services = name_space_.get();
+  return S_OK;
+}
+
+}  // namespace tqcim::host

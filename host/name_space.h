@@ -1,0 +1,156 @@
+/// The namespace of the provider's classes, and the locator that connects to it.
+#pragma once
+
+#include <atomic>
+#include <memory>
+
+#include "host/com.h"
+#include "host/object_path.h"
+#include "host/results.h"
+#include "host/schema.h"
+
+namespace tqcim::host {
+
+/// The one namespace that the host has.
+inline constexpr std::string_view kNamespace = "root\\cimv2\\vorn";
+
+/// Whether a path leads to the host's namespace of this computer: its server is missing, "." or
+/// `computer_name`, its namespaces are missing or those of kNamespace, in any case.
+bool IsInNamespace(const ObjectPath& path, std::string_view computer_name);
+
+/// The name of the computer.
+std::string ComputerName();
+
+/// A namespace that refuses every operation: WBEM_E_NOT_SUPPORTED.
+class RefusingServices : public IWbemServices {
+ public:
+  HRESULT STDMETHODCALLTYPE OpenNamespace(BSTR, LONG, IWbemContext*, IWbemServices**,
+                                          IWbemCallResult**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE CancelAsyncCall(IWbemObjectSink*) override { return kNotSupported; }
+  HRESULT STDMETHODCALLTYPE QueryObjectSink(LONG, IWbemObjectSink**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE GetObject(BSTR, LONG, IWbemContext*, IWbemClassObject**,
+                                      IWbemCallResult**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE GetObjectAsync(BSTR, LONG, IWbemContext*, IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE PutClass(IWbemClassObject*, LONG, IWbemContext*,
+                                     IWbemCallResult**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE PutClassAsync(IWbemClassObject*, LONG, IWbemContext*,
+                                          IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE DeleteClass(BSTR, LONG, IWbemContext*, IWbemCallResult**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE DeleteClassAsync(BSTR, LONG, IWbemContext*, IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE CreateClassEnum(BSTR, LONG, IWbemContext*,
+                                            IEnumWbemClassObject**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE CreateClassEnumAsync(BSTR, LONG, IWbemContext*,
+                                                 IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE PutInstance(IWbemClassObject*, LONG, IWbemContext*,
+                                        IWbemCallResult**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE PutInstanceAsync(IWbemClassObject*, LONG, IWbemContext*,
+                                             IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE DeleteInstance(BSTR, LONG, IWbemContext*, IWbemCallResult**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE DeleteInstanceAsync(BSTR, LONG, IWbemContext*,
+                                                IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE CreateInstanceEnum(BSTR, LONG, IWbemContext*,
+                                               IEnumWbemClassObject**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE CreateInstanceEnumAsync(BSTR, LONG, IWbemContext*,
+                                                    IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE ExecQuery(BSTR, BSTR, LONG, IWbemContext*,
+                                      IEnumWbemClassObject**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE ExecQueryAsync(BSTR, BSTR, LONG, IWbemContext*,
+                                           IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE ExecNotificationQuery(BSTR, BSTR, LONG, IWbemContext*,
+                                                  IEnumWbemClassObject**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE ExecNotificationQueryAsync(BSTR, BSTR, LONG, IWbemContext*,
+                                                       IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE ExecMethod(BSTR, BSTR, LONG, IWbemContext*, IWbemClassObject*,
+                                       IWbemClassObject**, IWbemCallResult**) override {
+    return kNotSupported;
+  }
+  HRESULT STDMETHODCALLTYPE ExecMethodAsync(BSTR, BSTR, LONG, IWbemContext*, IWbemClassObject*,
+                                            IWbemObjectSink*) override {
+    return kNotSupported;
+  }
+};
+
+/// The namespace: GetObject gives class definitions, all else is refused.
+///
+/// The provider keeps its connection for the life of the process and never gives it back, so COM
+/// references don't keep the namespace: its owner does, and counts them.
+class Namespace final : public RefusingServices {
+ public:
+  explicit Namespace(std::shared_ptr<const Schema> schema) : schema_(std::move(schema)) {}
+
+  const Schema& schema() const { return *schema_; }
+  /// How many references are held through COM.
+  ULONG References() const { return references_; }
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID riid, void** object) override;
+  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
+  ULONG STDMETHODCALLTYPE Release() override { return --references_; }
+
+  /// The definition of the class that a path names. WBEM_E_NOT_FOUND for a class that the schema
+  /// doesn't have, WBEM_E_INVALID_OBJECT_PATH for a text that is no path or leads elsewhere,
+  /// WBEM_E_NOT_SUPPORTED for the path of an instance and for flags. The call result is not used.
+  HRESULT STDMETHODCALLTYPE GetObject(BSTR path, LONG flags, IWbemContext* context,
+                                      IWbemClassObject** object, IWbemCallResult** call) override;
+
+ private:
+  std::shared_ptr<const Schema> schema_;
+  std::atomic<ULONG> references_ = 0;
+};
+
+/// Connects to the namespace of the host that made it. IUnknown and IWbemLocator are one table:
+/// providers that ask for the one use the other.
+class Locator final : public ComObject<IWbemLocator, IID_IWbemLocator> {
+ public:
+  explicit Locator(std::shared_ptr<Namespace> name_space) : name_space_(std::move(name_space)) {}
+
+  /// User, password, locale, flags, authority and context are not looked at.
+  /// WBEM_E_INVALID_NAMESPACE for any other namespace.
+  HRESULT STDMETHODCALLTYPE ConnectServer(BSTR resource, BSTR user, BSTR password, BSTR locale,
+                                          LONG flags, BSTR authority, IWbemContext* context,
+                                          IWbemServices** services) override;
+
+ private:
+  std::shared_ptr<Namespace> name_space_;
+};
+
+}  // namespace tqcim::host

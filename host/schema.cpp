@@ -1,0 +1,87 @@
+#include "host/schema.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <stdexcept>
+
+#include "embedded/schema.h"
+#include "host/class_builder.h"
+#include "host/text.h"
+
+namespace tqcim::host {
+namespace {
+
+std::string ReadFile(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  if (!file.is_open() || file.bad()) {
+    throw std::runtime_error(PathText(path) + ": the file cannot be read");
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string PropertyDefinition::TypeText() const {
+  std::string text(TypeName(type));
+  if (type == CimType::kReference) text += " " + reference_class;
+  return array ? text + "[]" : text;
+}
+
+const PropertyDefinition* ClassDefinition::Find(std::string_view property) const {
+  const auto found = std::find_if(
+      properties.begin(), properties.end(),
+      [property](const auto& definition) { return EqualNames(definition.name, property); });
+  return found == properties.end() ? nullptr : &*found;
+}
+
+Schema Schema::Embedded() {
+  std::vector<Source> sources;
+  for (const embedded::schema::File& file : embedded::schema::kFiles) {
+    sources.push_back({std::string(file.name), file.contents});
+  }
+  return FromSources(sources);
+}
+
+Schema Schema::FromFolder(const std::filesystem::path& folder) {
+  std::vector<std::filesystem::path> paths;
+  std::error_code error;
+  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    if (entry->path().extension() == ".mof") paths.push_back(entry->path());
+  }
+  if (error) throw std::runtime_error(PathText(folder) + ": the folder cannot be read");
+  if (paths.empty()) throw std::runtime_error(PathText(folder) + ": there is no .mof file");
+  std::sort(paths.begin(), paths.end());
+  std::vector<std::string> texts;
+  std::transform(paths.begin(), paths.end(), std::back_inserter(texts), ReadFile);
+  std::vector<Source> sources;
+  for (size_t i = 0; i < paths.size(); ++i) sources.push_back({PathText(paths[i]), texts[i]});
+  return FromSources(sources);
+}
+
+Schema Schema::FromSources(std::span<const Source> sources) {
+  MofDocument document;
+  for (const Source& source : sources) {
+    MofDocument parsed = ParseMof(source.name, source.text);
+    std::move(parsed.classes.begin(), parsed.classes.end(), std::back_inserter(document.classes));
+    std::move(parsed.instances.begin(), parsed.instances.end(),
+              std::back_inserter(document.instances));
+  }
+  Schema schema;
+  schema.classes_ = BuildClasses(document.classes);
+  for (size_t i = 0; i < schema.classes_.size(); ++i) {
+    schema.by_name_.emplace(LowerCase(schema.classes_[i].name), i);
+  }
+  schema.instances_ = BuildInstances(document.instances, schema);
+  return schema;
+}
+
+const ClassDefinition* Schema::Find(std::string_view class_name) const {
+  const auto found = by_name_.find(LowerCase(class_name));
+  return found == by_name_.end() ? nullptr : &classes_[found->second];
+}
+
+}  // namespace tqcim::host

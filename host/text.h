@@ -1,0 +1,26 @@
+/// Text of the platform and of the rest of the host: UTF-16 and UTF-8, and CIM's caseless names.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "platform/wmi.h"
+
+namespace tqcim::host {
+
+using WideText = std::basic_string<OLECHAR>;
+using WideView = std::basic_string_view<OLECHAR>;
+
+/// A file name for messages.
+std::string PathText(const std::filesystem::path& path);
+
+/// What is not valid in one form becomes U+FFFD in the other.
+WideText ToWide(std::string_view utf8);
+std::string ToUtf8(WideView wide);
+
+/// CIM names differ in nothing but the case of ASCII letters: the lower-case form stands for all.
+std::string LowerCase(std::string_view text);
+bool EqualNames(std::string_view a, std::string_view b);
+
+}  // namespace tqcim::host

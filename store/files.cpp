@@ -1,0 +1,83 @@
+#include "store/files.h"
+
+#include <cerrno>
+#include <fstream>
+#include <random>
+#include <system_error>
+
+#include "store/store_error.h"
+
+namespace tqcim::store {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string LastError() {
+  return std::generic_category().message(errno == 0 ? EIO : errno);
+}
+
+/// Removes the file at the end unless it has been moved away.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const fs::path& target) : path_(target) {
+    path_ += ".new-" + std::to_string(std::random_device()());
+  }
+  ~TemporaryFile() {
+    std::error_code ignored;
+    fs::remove(path_, ignored);
+  }
+  const fs::path& Path() const { return path_; }
+
+ private:
+  fs::path path_;
+};
+
+}  // namespace
+
+std::string TextOf(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+fs::path PathOf(std::string_view utf8) {
+  return fs::path(std::u8string(utf8.begin(), utf8.end()));
+}
+
+std::string ReadFile(const fs::path& path) {
+  std::error_code error;
+  const fs::file_status status = fs::status(path, error);
+  if (!fs::exists(status)) {
+    const bool missing = !error || status.type() == fs::file_type::not_found;
+    throw StoreError(TextOf(path), missing ? "no such file" : error.message());
+  }
+  if (!fs::is_regular_file(status)) throw StoreError(TextOf(path), "not a regular file");
+  errno = 0;
+  std::ifstream file(path, std::ios::binary);
+  if (!file) throw StoreError(TextOf(path), LastError());
+  // The size that a file claims is no use: files of the system's own folders claim any.
+  std::string contents;
+  std::string piece(size_t{64} << 10, '\0');
+  while (file.read(piece.data(), static_cast<std::streamsize>(piece.size())), file.gcount() > 0) {
+    contents.append(piece, 0, static_cast<size_t>(file.gcount()));
+    if (contents.size() > kLargestFile) {
+      throw StoreError(TextOf(path), "larger than " + std::to_string(kLargestFile >> 20) + " MiB");
+    }
+  }
+  if (file.bad()) throw StoreError(TextOf(path), LastError());
+  return contents;
+}
+
+void WriteFile(const fs::path& path, std::string_view contents) {
+  const TemporaryFile temporary(path);
+  errno = 0;
+  std::ofstream file(temporary.Path(), std::ios::binary);
+  file.write(contents.data(), static_cast<std::streamsize>(contents.size()));
+  file.close();
+  if (!file) throw StoreError(TextOf(path), "cannot be written: " + LastError());
+  std::error_code error;
+  fs::rename(temporary.Path(), path, error);
+  if (error) throw StoreError(TextOf(path), "cannot be written: " + error.message());
+}
+
+}  // namespace tqcim::store

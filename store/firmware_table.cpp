@@ -1,0 +1,74 @@
+#include "store/firmware_table.h"
+
+#include <string>
+
+#include "store/files.h"
+#include "store/smbios_source.h"
+#include "store/store_error.h"
+
+namespace tqcim::store {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kEntryPointName = "smbios_entry_point";
+constexpr const char* kTableName = "DMI";
+
+smbios::Bytes BytesOf(const std::string& contents) {
+  return {reinterpret_cast<const uint8_t*>(contents.data()), contents.size()};
+}
+
+/// The snapshot of the table at the start of `available`, which begins at `offset` of `file`.
+std::unique_ptr<Snapshot> SnapshotOfTable(smbios::Bytes available,
+                                          const smbios::EntryPoint& entryPoint,
+                                          const std::string& file, size_t offset) {
+  if (available.size() > entryPoint.tableLength) {
+    available = available.first(entryPoint.tableLength);
+  } else if (entryPoint.lengthIsExact && available.size() < entryPoint.tableLength) {
+    throw StoreError(smbios::PlaceAt(file, offset + available.size()),
+                     "the table is cut off: its entry point gives it " +
+                         std::to_string(entryPoint.tableLength) + " bytes, the file has " +
+                         std::to_string(available.size()));
+  }
+  return smbios::SnapshotOf(available, entryPoint, file, offset);
+}
+
+std::unique_ptr<Snapshot> LoadDump(smbios::Bytes contents, const std::string& file) {
+  const smbios::EntryPoint entryPoint = smbios::ReadEntryPoint(contents, file);
+  if (entryPoint.tableAddress >= contents.size()) {
+    throw StoreError(smbios::PlaceAt(file, 0), "the entry point gives the table an address, " +
+                                                   std::to_string(entryPoint.tableAddress) +
+                                                   ", past the end of the file");
+  }
+  const auto offset = static_cast<size_t>(entryPoint.tableAddress);
+  return SnapshotOfTable(contents.subspan(offset), entryPoint, file, offset);
+}
+
+std::unique_ptr<Snapshot> LoadBareTable(smbios::Bytes table, const fs::path& path) {
+  const fs::path entryPointPath = path.parent_path() / kEntryPointName;
+  std::error_code error;
+  if (!fs::exists(entryPointPath, error)) {
+    throw StoreError(TextOf(path), "neither begins with an SMBIOS entry point nor has one in " +
+                                       std::string(kEntryPointName) + " beside it");
+  }
+  const std::string contents = ReadFile(entryPointPath);
+  const std::string entryPointFile = TextOf(entryPointPath);
+  if (!smbios::HasEntryPoint(BytesOf(contents))) {
+    throw StoreError(smbios::PlaceAt(entryPointFile, 0), "not an SMBIOS entry point");
+  }
+  return SnapshotOfTable(table, smbios::ReadEntryPoint(BytesOf(contents), entryPointFile),
+                         TextOf(path), 0);
+}
+
+}  // namespace
+
+std::unique_ptr<Snapshot> LoadFirmwareTable(const fs::path& path) {
+  std::error_code error;
+  const fs::path file = fs::is_directory(path, error) ? path / kTableName : path;
+  const std::string contents = ReadFile(file);
+  const smbios::Bytes bytes = BytesOf(contents);
+  return smbios::HasEntryPoint(bytes) ? LoadDump(bytes, TextOf(file)) : LoadBareTable(bytes, file);
+}
+
+}  // namespace tqcim::store

@@ -1,0 +1,52 @@
+#include "store/snapshot.h"
+
+#include <cstring>
+#include <new>
+#include <utility>
+
+namespace tqcim::store {
+
+Snapshot::Snapshot(std::vector<StoredObject> objects)
+    : objects_(std::move(objects)), emptyList_(MakeList({})) {
+  std::unordered_map<ListKey, std::vector<uint32_t>, ListKeyHash> children;
+  for (const StoredObject& object : objects_) {
+    byOid_.emplace(object.oid, &object);
+    for (const uint32_t parent : object.parents) {
+      children[{parent, object.type}].push_back(object.oid);
+    }
+  }
+  for (const auto& [key, oids] : children) lists_.emplace(key, MakeList(oids));
+}
+
+const StoredObject* Snapshot::Find(uint32_t oid) const {
+  const auto found = byOid_.find(oid);
+  return found == byOid_.end() ? nullptr : found->second;
+}
+
+uint32_t* Snapshot::Children(uint32_t parent, uint16_t type) const {
+  if (Find(parent) == nullptr) return nullptr;
+  const auto found = lists_.find({parent, type});
+  const ListBlock& block = found == lists_.end() ? emptyList_ : found->second;
+  return reinterpret_cast<uint32_t*>(block.get() + sizeof(BlockPrefix));
+}
+
+bool Snapshot::Hold() {
+  uint32_t holds = holds_.load(std::memory_order_acquire);
+  while (holds != 0) {
+    if (holds_.compare_exchange_weak(holds, holds + 1, std::memory_order_acq_rel)) return true;
+  }
+  return false;
+}
+
+Snapshot::ListBlock Snapshot::MakeList(std::span<const uint32_t> oids) {
+  const size_t size = sizeof(uint32_t) + oids.size_bytes();
+  auto block = std::make_unique<std::byte[]>(sizeof(BlockPrefix) + size);
+  new (block.get()) BlockPrefix{this, BlockKind::kSharedList, static_cast<uint32_t>(size)};
+  std::byte* list = block.get() + sizeof(BlockPrefix);
+  const auto count = static_cast<uint32_t>(oids.size());
+  std::memcpy(list, &count, sizeof(count));
+  if (!oids.empty()) std::memcpy(list + sizeof(count), oids.data(), oids.size_bytes());
+  return block;
+}
+
+}  // namespace tqcim::store

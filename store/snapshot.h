@@ -1,0 +1,100 @@
+/// An immutable picture of the managed system: objects by OID and child lists by parent and type.
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <unordered_map>
+#include <vector>
+
+namespace tqcim::store {
+
+class Snapshot;
+
+/// What SMILFreeGeneric finds before a block.
+enum class BlockKind : uint32_t {
+  kSharedList,  ///< a child list inside a snapshot, which the caller's hold keeps alive
+  kObject,      ///< a caller's own copy of a data object
+  kText,        ///< a text made for the caller
+};
+
+/// Stands hidden before every block that leaves the store.
+struct BlockPrefix {
+  /// The snapshot that holds a shared list.
+  Snapshot* owner;
+  BlockKind kind;
+  /// The block's length in bytes, without this prefix.
+  uint32_t size;
+};
+static_assert(sizeof(BlockPrefix) == 16, "blocks stay aligned as malloc aligns them");
+
+inline BlockPrefix* PrefixOf(void* block) {
+  return static_cast<BlockPrefix*>(block) - 1;
+}
+
+/// A data object as it stands in a snapshot.
+struct StoredObject {
+  uint32_t oid;
+  uint16_t type;
+  /// Header, body and texts.
+  std::vector<std::byte> bytes;
+  /// The objects under which it is listed, in the order given.
+  std::vector<uint32_t> parents;
+
+  bool operator==(const StoredObject&) const = default;
+};
+
+/// Objects stand in the order in which they were added, and each child list in that same order. A
+/// snapshot without objects is the store of a machine of which nothing is known.
+///
+/// A snapshot lives as long as it is held: by the store while it is the one in service, and by
+/// every list that a caller has not freed yet.
+class Snapshot {
+ public:
+  /// `objects` are complete and consistent: SnapshotBuilder sees to that.
+  explicit Snapshot(std::vector<StoredObject> objects);
+  Snapshot(const Snapshot&) = delete;
+  Snapshot& operator=(const Snapshot&) = delete;
+
+  std::span<const StoredObject> Objects() const { return objects_; }
+
+  /// The object, or null.
+  const StoredObject* Find(uint32_t oid) const;
+
+  /// The shared block (count and OIDs) of the children of one type, of count 0 where there are
+  /// none; null where there is no such parent.
+  uint32_t* Children(uint32_t parent, uint16_t type) const;
+
+  /// One more hold, unless the last one is gone already.
+  bool Hold();
+  void Release() { holds_.fetch_sub(1, std::memory_order_acq_rel); }
+  bool IsHeld() const { return holds_.load(std::memory_order_acquire) != 0; }
+  /// The holds of callers and of the store.
+  uint32_t Holds() const { return holds_.load(std::memory_order_acquire); }
+
+ private:
+  struct ListKey {
+    uint32_t parent;
+    uint16_t type;
+    bool operator==(const ListKey&) const = default;
+  };
+  struct ListKeyHash {
+    size_t operator()(const ListKey& key) const {
+      return std::hash<uint64_t>()(uint64_t{key.parent} << 16 | key.type);
+    }
+  };
+  /// A prefix followed by the count and the OIDs.
+  using ListBlock = std::unique_ptr<std::byte[]>;
+
+  ListBlock MakeList(std::span<const uint32_t> oids);
+
+  const std::vector<StoredObject> objects_;
+  std::unordered_map<uint32_t, const StoredObject*> byOid_;
+  std::unordered_map<ListKey, ListBlock, ListKeyHash> lists_;
+  ListBlock emptyList_;
+  std::atomic<uint32_t> holds_{1};
+};
+
+}  // namespace tqcim::store

@@ -1,0 +1,161 @@
+#include "store/store.h"
+
+#include <cstdlib>
+#include <cstring>
+#include <new>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <utility>
+
+#include "platform/layouts/header.h"
+#include "store/text.h"
+
+namespace tqcim::store {
+namespace {
+
+/// A block for a caller, uninitialised, with its prefix before it; null if there is no memory.
+std::byte* NewBlock(BlockKind kind, size_t size) {
+  void* memory = std::malloc(sizeof(BlockPrefix) + size);
+  if (memory == nullptr) return nullptr;
+  new (memory) BlockPrefix{nullptr, kind, static_cast<uint32_t>(size)};
+  return static_cast<std::byte*>(memory) + sizeof(BlockPrefix);
+}
+
+void* CopyOf(const StoredObject& object) {
+  std::byte* block = NewBlock(BlockKind::kObject, object.bytes.size());
+  if (block != nullptr) std::memcpy(block, object.bytes.data(), object.bytes.size());
+  return block;
+}
+
+}  // namespace
+
+class Store::ReadSection {
+ public:
+  explicit ReadSection(const Store& store) : store_(store) {
+    for (;;) {
+      const uint64_t epoch = store_.epoch_.load();
+      slot_ = epoch % 2;
+      store_.readers_[slot_].fetch_add(1);
+      if (store_.epoch_.load() == epoch) break;
+      store_.readers_[slot_].fetch_sub(1);
+    }
+    view_ = store_.view_.load();
+  }
+  ~ReadSection() { store_.readers_[slot_].fetch_sub(1); }
+  ReadSection(const ReadSection&) = delete;
+  ReadSection& operator=(const ReadSection&) = delete;
+
+  const View* operator->() const { return view_; }
+
+ private:
+  const Store& store_;
+  size_t slot_;
+  const View* view_;
+};
+
+Store::Store() : view_(new View) {}
+
+Store::~Store() {
+  delete view_.load();
+}
+
+void Store::OpenOnce(const std::function<std::unique_ptr<Snapshot>()>& load) {
+  if (ReadSection(*this)->current != nullptr) return;
+  const std::lock_guard lock(refresh_);
+  if (view_.load()->current == nullptr) Publish(load());
+}
+
+void Store::Replace(std::unique_ptr<Snapshot> snapshot) {
+  const std::lock_guard lock(refresh_);
+  Publish(std::move(snapshot));
+}
+
+void* Store::CopyObject(uint32_t oid) const {
+  const ReadSection view(*this);
+  if (view->current == nullptr) return nullptr;
+  if (const StoredObject* object = view->current->Find(oid)) return CopyOf(*object);
+  for (const Snapshot* retired : view->retired) {
+    if (!retired->IsHeld()) continue;
+    if (const StoredObject* object = retired->Find(oid)) return CopyOf(*object);
+  }
+  return nullptr;
+}
+
+void* Store::ListChildren(uint32_t parent, uint16_t type) const {
+  const ReadSection view(*this);
+  if (view->current == nullptr) return nullptr;
+  uint32_t* list = view->current->Children(parent, type);
+  if (list != nullptr && view->current->Hold()) return list;
+  for (Snapshot* retired : view->retired) {
+    list = retired->Children(parent, type);
+    if (list != nullptr && retired->Hold()) return list;
+  }
+  return nullptr;
+}
+
+void* Store::TextAt(void* object, uint32_t offset) {
+  const uint32_t size = PrefixOf(object)->size;
+  if (offset < layout::header::kSize || offset >= size) return nullptr;
+  std::u16string text((size - offset) / sizeof(char16_t), u'\0');
+  std::memcpy(text.data(), static_cast<const std::byte*>(object) + offset,
+              text.size() * sizeof(char16_t));
+  const size_t length = text.find(u'\0');
+  if (length == std::u16string::npos) return nullptr;
+  const std::string utf8 = Utf8FromUtf16(std::u16string_view(text).substr(0, length));
+  std::byte* block = NewBlock(BlockKind::kText, utf8.size() + 1);
+  if (block != nullptr) std::memcpy(block, utf8.c_str(), utf8.size() + 1);
+  return block;
+}
+
+void Store::Free(void* block) {
+  if (block == nullptr) return;
+  BlockPrefix* prefix = PrefixOf(block);
+  if (prefix->kind == BlockKind::kSharedList) {
+    prefix->owner->Release();
+  } else {
+    std::free(prefix);
+  }
+}
+
+size_t Store::SnapshotCount() const {
+  const std::lock_guard lock(refresh_);
+  return snapshots_.size();
+}
+
+void Store::Publish(std::unique_ptr<Snapshot> snapshot) {
+  Snapshot* const previous = view_.load()->current;
+  Snapshot* const current = snapshot.get();
+  snapshots_.push_back(std::move(snapshot));
+  InstallView(current);
+  if (previous == nullptr) return;
+  // No reader sees `previous` as the one in service any more, so that holds on it only come from
+  // the lists that callers have.
+  previous->Release();
+  InstallView(current);
+}
+
+void Store::InstallView(Snapshot* current) {
+  auto view = std::make_unique<View>();
+  view->current = current;
+  std::vector<std::unique_ptr<Snapshot>> kept;
+  std::vector<std::unique_ptr<Snapshot>> gone;
+  kept.reserve(snapshots_.size());
+  gone.reserve(snapshots_.size());
+  view->retired.reserve(snapshots_.size());
+  for (auto& snapshot : snapshots_) {
+    const bool held = snapshot->IsHeld();
+    if (held && snapshot.get() != current) view->retired.push_back(snapshot.get());
+    (held ? kept : gone).push_back(std::move(snapshot));
+  }
+  snapshots_ = std::move(kept);
+  const std::unique_ptr<const View> last(view_.exchange(view.release()));
+  WaitForReaders();
+}
+
+void Store::WaitForReaders() {
+  const uint64_t old = epoch_.fetch_add(1);
+  while (readers_[old % 2].load() != 0) std::this_thread::yield();
+}
+
+}  // namespace tqcim::store

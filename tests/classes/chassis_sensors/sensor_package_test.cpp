@@ -1,0 +1,157 @@
+#include "tests/classes/chassis_sensors/sensor_package_test.h"
+
+namespace tqcim::testing {
+namespace {
+
+TEST_P(SensorPackageTest, PairsEverySensorOfOneChassis) {
+  ListChassis({2});
+  ListSensors(2, 3);
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ((Texts{"Chassis 2: 0", "Chassis 2: 1", "Chassis 2: 2"}), Pairs());
+}
+
+TEST_P(SensorPackageTest, ALaterChassisAddsOnlyWhatItHasBeyondTheOneBefore) {
+  ListSensors(2, 2);
+  ListSensors(3, 3);
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ((Texts{"Chassis 2: 0", "Chassis 2: 1", "Chassis 3: 102"}), Pairs());
+}
+
+TEST_P(SensorPackageTest, ALaterChassisWithNoMoreSensorsAddsNone) {
+  ListChassis({2, 3, 4});
+  ListSensors(2, 2);
+  ListSensors(3, 2);
+  ListSensors(4, 1);
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ((Texts{"Chassis 2: 0", "Chassis 2: 1"}), Pairs());
+}
+
+TEST_P(SensorPackageTest, ThePositionCarriesOverThreeChassisAndNeverStartsAgain) {
+  ListChassis({2, 3, 4});
+  ListSensors(2, 3);
+  ListSensors(3, 1);
+  ListSensors(4, 5);
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ(
+      (Texts{"Chassis 2: 0", "Chassis 2: 1", "Chassis 2: 2", "Chassis 4: 203", "Chassis 4: 204"}),
+      Pairs());
+}
+
+TEST_P(SensorPackageTest, SkipsAChassisWithoutSensorsOrWhoseListingFails) {
+  ListChassis({2, 3, 4, 5});
+  ListSensors(2, 0);
+  ListSensors(3, 1);
+  ListSensors(4, 9);
+  store.FailListing(4, kType);
+  ListSensors(5, 2);
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ((Texts{"Chassis 3: 100", "Chassis 5: 301"}), Pairs());
+}
+
+TEST_P(SensorPackageTest, AChassisWithoutADescriptionAddsNoneAndCountsNone) {
+  ListSensors(2, 3);
+  ListSensors(3, 2);
+  store.FailListing(2, 32);
+  EXPECT_EQ(0, EnumerateClass());
+  store.FailListing(2, 32, 0);
+  store.List(2, 32, {});
+  EXPECT_EQ(0, EnumerateClass());
+  store.List(2, 32, {1002});
+  store.FailRead(1002);
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ((Texts{"Chassis 3: 100", "Chassis 3: 101", "Chassis 3: 100", "Chassis 3: 101",
+                   "Chassis 3: 100", "Chassis 3: 101"}),
+            Pairs());
+}
+
+TEST_P(SensorPackageTest, TheFirstDescriptionNamesTheChassis) {
+  ListChassis({2});
+  ListSensors(2, 1);
+  store.Add(77, 32).Ucs2(32, u"Another description");
+  store.List(2, 32, {1002, 77});
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ(Texts{"Chassis 2: 0"}, Pairs());
+}
+
+TEST_P(SensorPackageTest, ReadsNoObjectButTheDescription) {
+  ListChassis({2});
+  ListSensors(2, 2);
+  store.RecordCalls();
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ((Texts{"children 1/17", "children 2/32", "object 1002", "free", "free",
+                   "children 2/" + std::to_string(kType), "free", "free"}),
+            store.Calls());
+}
+
+TEST_P(SensorPackageTest, ALongChassisNameIsCutAtTheEndOfThePath) {
+  ListChassis({2});
+  ListSensors(2, 1);
+  store.Object(1002).Ucs2(32, std::u16string(183, u'x'));
+  EXPECT_EQ(0, EnumerateClass());
+  store.Object(1002).Ucs2(32, std::u16string(184, u'x'));
+  EXPECT_EQ(0, EnumerateClass());
+  store.Object(1002).Ucs2(32, std::u16string(5000, u'x'));
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ(kChassisPathStart + std::string(183, 'x') + '"', Value(0, "Dependent"));
+  EXPECT_EQ(kChassisPathStart + std::string(184, 'x'), Value(1, "Dependent"));
+  EXPECT_EQ(kChassisPathStart + std::string(184, 'x'), Value(2, "Dependent"));
+}
+
+TEST_P(SensorPackageTest, EnumeratesNothingWithoutChassis) {
+  store.List(1, 17, {});
+  EXPECT_EQ(0, EnumerateClass());
+  store.FailListing(1, 17);
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ(0u, definition.Spawns());
+}
+
+TEST_P(SensorPackageTest, ReturnsTheReferencesThatAreLeftAfterTheLastRelease) {
+  ListSensors(2, 2);
+  ListSensors(3, 3);
+  EXPECT_EQ(0, EnumerateClass());
+  sink.KeepInstances();
+  EXPECT_EQ(1, EnumerateClass());
+}
+
+TEST_P(SensorPackageTest, IgnoresTheSinksRefusal) {
+  ListSensors(2, 2);
+  ListSensors(3, 3);
+  sink.SetIndicateResult(Hr(0x80041032));
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ(3u, DeliveredCount());
+}
+
+TEST_P(SensorPackageTest, ASpawnWithoutInstanceEndsTheEnumerationWithTheResultOfTheLastRelease) {
+  ListSensors(2, 2);
+  ListSensors(3, 3);
+  sink.KeepInstances();
+  definition.SpawnNothing(0, Hr(0x80041006));
+  EXPECT_EQ(0, EnumerateClass());
+  definition.SpawnNothing(2, Hr(0x80041006));
+  EXPECT_EQ(1, EnumerateClass());
+  definition.SpawnNothing(5, S_OK);
+  EXPECT_EQ(1, EnumerateClass());
+  EXPECT_EQ((Texts{"Chassis 2: 0", "Chassis 2: 0", "Chassis 2: 1"}), Pairs());
+  EXPECT_EQ(6u, definition.Spawns());
+}
+
+TEST_P(SensorPackageTest, PropertiesThatAreRefusedDoNotKeepAnInstanceBack) {
+  ListSensors(2, 1);
+  definition.SetPutResult(Hr(0x80041002));
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ(1u, DeliveredCount());
+}
+
+TEST_P(SensorPackageTest, IsNeverFoundByKeys) {
+  ListSensors(2, 1);
+  store.RecordCalls();
+  EXPECT_EQ(Hr(0x80041002), Get(kName, StringKey(OLESTR("Dependent"), OLESTR("Chassis 2"))));
+  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kName));
+  FakeKeyList keys;
+  keys.FailCount(Hr(0x80041008));
+  EXPECT_EQ(Hr(0x80041002), Get(kName, keys));
+  EXPECT_EQ(Texts{}, store.Calls());
+}
+
+}  // namespace
+}  // namespace tqcim::testing

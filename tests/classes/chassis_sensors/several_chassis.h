@@ -1,0 +1,60 @@
+/// Chassis and their probes, for the classes that walk over them.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tests/support/handler_test.h"
+
+namespace tqcim::testing {
+
+using Texts = std::vector<std::string>;
+/// Object types.
+using Types = std::vector<uint16_t>;
+
+/// The value that a key has in an object path; "<absent>" where the path doesn't name it.
+inline std::string KeyOf(const std::string& path, const std::string& key) {
+  const std::string opening = key + "=\"";
+  const size_t begin = path.find(opening);
+  if (begin == std::string::npos) return "<absent>";
+  const size_t value = begin + opening.size();
+  return path.substr(value, path.find('"', value) - value);
+}
+
+/// The beginning of a reference to a chassis: 71 characters.
+inline const std::string kChassisPathStart =
+    R"(\\.\root\cimv2\vorn:VORN_Chassis.CreationClassName="VORN_Chassis",Tag=")";
+
+class SeveralChassisTest : public HandlerTest {
+ protected:
+  /// Sets the list of chassis. Chassis 2 has the description 1002 that names it "Chassis 2".
+  void ListChassis(const std::vector<uint32_t>& oids) {
+    store.List(1, 17, oids);
+    for (const uint32_t oid : oids) {
+      store.Add(1000 + oid, 32).Ucs2(32, Named(u"Chassis ", oid));
+      store.List(oid, 32, {1000 + oid});
+    }
+  }
+
+  /// Sets a chassis's list of probes. Probe 201 has the status OK and the name "Probe 201".
+  void ListProbes(uint32_t chassisOid, uint16_t type, const std::vector<uint32_t>& oids) {
+    for (const uint32_t oid : oids) store.Add(oid, type).Ucs2(72, Named(u"Probe ", oid));
+    store.List(chassisOid, type, oids);
+  }
+
+  /// The value of a property in each instance delivered, in order.
+  Texts Values(const std::string& property) const {
+    Texts values;
+    for (size_t i = 0; i < DeliveredCount(); ++i) values.push_back(Value(i, property));
+    return values;
+  }
+
+ private:
+  static std::u16string Named(std::u16string name, uint32_t oid) {
+    const std::string digits = std::to_string(oid);
+    return name.append(digits.begin(), digits.end());
+  }
+};
+
+}  // namespace tqcim::testing

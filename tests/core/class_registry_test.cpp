@@ -1,0 +1,51 @@
+#include "core/class_registry.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+
+#include "tests/core/failing_new.h"
+
+namespace tqcim::testing {
+namespace {
+
+/// What Lookup throws for a name.
+std::string FailureOf(const char* name) {
+  try {
+    Lookup(name);
+  } catch (const std::out_of_range& failure) {
+    return failure.what();
+  }
+  return "none";
+}
+
+TEST(ClassRegistry, FindsARegisteredName) {
+  EXPECT_NE(nullptr, Lookup("VORN_System"));
+  EXPECT_EQ(Lookup("VORN_System"), Lookup("VORN_System"));
+  EXPECT_NE(Lookup("VORN_System"), Lookup("VORN_Chassis"));
+}
+
+TEST(ClassRegistry, MatchesExactly) {
+  for (const char* name : {"vorn_system", "Vorn_System", "VORN_SYSTEM", "VORN_Syste",
+                           "VORN_System ", " VORN_System", "VORN_Systems", "CIM_System", ""}) {
+    EXPECT_EQ("invalid map<K, T> key", FailureOf(name)) << name;
+  }
+}
+
+TEST(ClassRegistry, ANullNameIsNotRegistered) {
+  EXPECT_EQ("invalid map<K, T> key", FailureOf(nullptr));
+}
+
+TEST(ClassRegistry, TheHandlerOfANameRegisteredTwiceIsOne) {
+  EXPECT_NE(nullptr, Lookup("VORN_FanRedundancyGroup"));
+  EXPECT_EQ(Lookup("VORN_FanRedundancyGroup"), Lookup("VORN_FanRedundancyGroup"));
+}
+
+TEST(ClassRegistry, AHandlerThatFindsNoMemoryIsNull) {
+  const FailingNew failing;
+  EXPECT_EQ(nullptr, kRegisteredClasses[0].makeHandler());
+}
+
+}  // namespace
+}  // namespace tqcim::testing

@@ -1,0 +1,105 @@
+/// What tests of the host's COM objects share.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <memory>
+
+#include "host/class_object.h"
+#include "host/refused_puts.h"
+
+namespace tqcim::host {
+
+/// A schema from one MOF text.
+inline std::shared_ptr<const Schema> SchemaFromText(std::string_view text) {
+  const Schema::Source source{"test.mof", text};
+  return std::make_shared<const Schema>(Schema::FromSources({&source, 1}));
+}
+
+/// A test after which no COM object of the host may be alive.
+class HostObjectsTest : public ::testing::Test {
+ protected:
+  HostObjectsTest() { RefusedPuts::Clear(); }
+  ~HostObjectsTest() override {
+    RefusedPuts::Clear();
+    EXPECT_EQ(0, LiveObject::Count());
+  }
+};
+
+inline ComPtr<IWbemClassObject> Spawn(IWbemClassObject& definition) {
+  IWbemClassObject* instance = nullptr;
+  EXPECT_EQ(S_OK, definition.SpawnInstance(0, &instance));
+  return ComPtr<IWbemClassObject>(instance);
+}
+
+/// VARIANTs as a provider makes them.
+inline OwnedVariant I4(LONG value) {
+  OwnedVariant variant;
+  V_VT(&variant) = VT_I4;
+  V_I4(&variant) = value;
+  return variant;
+}
+inline OwnedVariant I2(SHORT value) {
+  OwnedVariant variant;
+  V_VT(&variant) = VT_I2;
+  V_I2(&variant) = value;
+  return variant;
+}
+inline OwnedVariant Ui1(BYTE value) {
+  OwnedVariant variant;
+  V_VT(&variant) = VT_UI1;
+  V_UI1(&variant) = value;
+  return variant;
+}
+inline OwnedVariant Bool(VARIANT_BOOL value) {
+  OwnedVariant variant;
+  V_VT(&variant) = VT_BOOL;
+  V_BOOL(&variant) = value;
+  return variant;
+}
+inline OwnedVariant Text(const OLECHAR* value) {
+  OwnedVariant variant;
+  V_VT(&variant) = VT_BSTR;
+  V_BSTR(&variant) = SysAllocString(value);
+  return variant;
+}
+inline OwnedVariant OfType(VARTYPE type) {
+  OwnedVariant variant;
+  V_VT(&variant) = type;
+  return variant;
+}
+inline OwnedVariant R4(float value) {
+  OwnedVariant variant;
+  V_VT(&variant) = VT_R4;
+  V_R4(&variant) = value;
+  return variant;
+}
+inline OwnedVariant R8(double value) {
+  OwnedVariant variant;
+  V_VT(&variant) = VT_R8;
+  V_R8(&variant) = value;
+  return variant;
+}
+
+/// An array with lower bound 0; `type` and T belong together.
+template <typename T>
+OwnedVariant ArrayOf(VARTYPE type, std::initializer_list<T> values) {
+  OwnedVariant variant;
+  SAFEARRAY* array = SafeArrayCreateVector(type, 0, static_cast<ULONG>(values.size()));
+  LONG index = 0;
+  for (T value : values) {
+    if constexpr (std::is_pointer_v<T>) {
+      const BstrPtr text(SysAllocString(value));
+      EXPECT_EQ(S_OK, SafeArrayPutElement(array, &index, text.get()));
+    } else {
+      EXPECT_EQ(S_OK, SafeArrayPutElement(array, &index, &value));
+    }
+    ++index;
+  }
+  V_VT(&variant) = static_cast<VARTYPE>(VT_ARRAY | type);
+  V_ARRAY(&variant) = array;
+  return variant;
+}
+
+}  // namespace tqcim::host

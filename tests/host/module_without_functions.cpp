@@ -1,0 +1,4 @@
+// A module that is no COM server.
+namespace tqcim::host {
+[[gnu::used]] static const int kNothing = 0;
+}

@@ -1,0 +1,35 @@
+// Prints what a process that opens no store of its own finds at its first use of the libraries: the
+// model of the main chassis, and a number of an INI file.
+
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+
+#include "platform/libraries.h"
+
+int main() {
+  uint32_t chassis = 2;
+  void* list = SMILListChildOIDByType(&chassis, 32);
+  uint32_t count = 0;
+  if (list != nullptr) std::memcpy(&count, list, sizeof(count));
+  if (count == 0) {
+    std::puts("no chassis");
+  } else {
+    uint32_t oid = 0;
+    std::memcpy(&oid, static_cast<char*>(list) + 4, sizeof(oid));
+    void* description = SMILGetObjByOID(&oid);
+    uint32_t model = 0;
+    std::memcpy(&model, static_cast<char*>(description) + 40, sizeof(model));
+    char* text = SMILDOGetByOffsetUTF8Str(description, model);
+    std::printf("model %s\n", text);
+    SMILFreeGeneric(text);
+    SMILFreeGeneric(description);
+  }
+  SMILFreeGeneric(list);
+
+  uint16_t number = 7;
+  uint32_t size = sizeof(number);
+  const int32_t result =
+      SMReadINIFileValue("Section", "key", 4, &number, &size, &number, 2, "probe.ini", 1);
+  std::printf("ini %d %u\n", result, number);
+}

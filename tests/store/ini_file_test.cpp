@@ -1,0 +1,45 @@
+#include "store/ini_file.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/temporary_folder.h"
+
+namespace tqcim::store {
+namespace {
+
+std::optional<uint16_t> NumberIn(std::string_view contents) {
+  const testing::TemporaryFolder folder;
+  return ReadIniNumber(folder.Write("f.ini", contents), "Network Information", "nic.disabled");
+}
+
+TEST(IniFile, AKeyOfItsSectionIsFound) {
+  EXPECT_EQ(NumberIn("[Network Information]\nnic.disabled=1\n"), 1);
+  EXPECT_EQ(NumberIn("; a comment\r\n\r\n[Other]\r\nnic.disabled=2\r\n"
+                     "[Network Information]\r\n# another\r\na=3\r\nnic.disabled = 65535 \r\n"),
+            65535);
+  EXPECT_EQ(NumberIn("[ network information ]\n\tNIC.Disabled\t=\t7"), 7);
+}
+
+TEST(IniFile, TheFirstOfSeveralCounts) {
+  EXPECT_EQ(NumberIn("[Network Information]\nnic.disabled=1\nnic.disabled=2\n"), 1);
+}
+
+TEST(IniFile, WhatIsNotThereIsNothing) {
+  EXPECT_EQ(NumberIn(""), std::nullopt);
+  EXPECT_EQ(NumberIn("nic.disabled=1\n"), std::nullopt) << "outside every section";
+  EXPECT_EQ(NumberIn("[Network Information]\n[Other]\nnic.disabled=1\n"), std::nullopt);
+  EXPECT_EQ(NumberIn("[Network Information]\n;nic.disabled=1\n"), std::nullopt);
+  EXPECT_EQ(NumberIn("[Network Information]\nnic.disabled\n"), std::nullopt);
+  EXPECT_EQ(NumberIn("[Network Information]\nnic.disabled.too=1\n"), std::nullopt);
+  EXPECT_EQ(ReadIniNumber("no-such-folder/f.ini", "s", "k"), std::nullopt);
+}
+
+TEST(IniFile, WhatIsNoSixteenBitNumberIsNothing) {
+  for (const char* value : {"", "x", "1x", "-1", "65536", "0x1", "1 2", "99999999999999999999"}) {
+    EXPECT_EQ(NumberIn(std::string("[Network Information]\nnic.disabled=") + value), std::nullopt)
+        << value;
+  }
+}
+
+}  // namespace
+}  // namespace tqcim::store

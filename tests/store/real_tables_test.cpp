@@ -1,0 +1,214 @@
+// Tables of real machines against the text that an independent decoder prints of them. They are no
+// part of the sources: TQCIM_REAL_DATA names the folder that has them.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <functional>
+#include <vector>
+
+#include "store/firmware_table.h"
+#include "store/process.h"
+#include "store/store_file.h"
+#include "store/text.h"
+#include "tests/store/decoder_text.h"
+#include "tests/store/raw_bytes.h"
+
+namespace tqcim::store {
+namespace {
+
+using testing::BytesOf;
+using testing::Decoded;
+using testing::DecodedStructure;
+using testing::Oids;
+using testing::U32;
+using testing::U8;
+
+namespace fs = std::filesystem;
+
+/// A text of an object, empty where there is none or it says "Not Specified" itself.
+std::string TextIn(const std::byte* object, size_t offset) {
+  if (U32(object, offset) == 0) return "";
+  const std::string text = Utf8FromUtf16(testing::Text(object, offset));
+  return text == "Not Specified" ? "" : text;
+}
+
+/// The number at the start of a text such as "2667 MHz"; 0 for "Unknown".
+uint32_t NumberIn(const std::string& text) {
+  return static_cast<uint32_t>(std::strtoul(text.c_str(), nullptr, 10));
+}
+
+uint64_t BytesIn(const std::string& size) {
+  const uint64_t number = NumberIn(size);
+  if (size.ends_with(" kB")) return number << 10;
+  if (size.ends_with(" MB")) return number << 20;
+  if (size.ends_with(" GB")) return number << 30;
+  return 0;
+}
+
+/// DSP0134 7.4.1, as far as these machines need it.
+uint32_t ChassisType(const std::string& name) {
+  const std::pair<const char*, uint32_t> names[] = {{"Other", 1},
+                                                    {"Desktop", 3},
+                                                    {"Mini Tower", 6},
+                                                    {"Notebook", 10},
+                                                    {"Main Server Chassis", 17},
+                                                    {"Rack Mount Chassis", 23}};
+  for (const auto& [known, code] : names) {
+    if (name == known) return code;
+  }
+  ADD_FAILURE() << "a chassis of type " << name;
+  return 0;
+}
+
+uint8_t StateStatus(const std::string& state) {
+  return state == "Safe" ? 2 : state == "Warning" ? 3 : state == "Critical" ? 4 : 0;
+}
+
+/// The decoder's "Type 0, Family 6, Model 44, Stepping 2" (or without the type) as our texts.
+std::pair<std::string, std::string> SignatureTexts(const std::string& signature) {
+  const size_t family = signature.find("Family ");
+  const size_t stepping = signature.find(", Stepping ");
+  if (family == std::string::npos) return {};
+  std::string model = signature.substr(family, stepping - family);
+  model.erase(model.find(','), 1);
+  return {model, signature.substr(stepping + 11)};
+}
+
+void CompareChassis(const Snapshot& snapshot, const fs::path& text) {
+  const DecodedStructure chassis = Decoded(text, "Chassis Information").at(0);
+  const DecodedStructure system = Decoded(text, "System Information").at(0);
+  const std::byte* description = BytesOf(snapshot, 32 * 65536 + 1);
+  const std::byte* identity = BytesOf(snapshot, 33 * 65536 + 1);
+  EXPECT_EQ(U32(description, 16), ChassisType(chassis["Type"]));
+  EXPECT_EQ(testing::U16(description, 24), chassis["Lock"] == "Present" ? 1 : 0);
+  EXPECT_EQ(TextIn(description, 40), system["Product Name"]);
+  EXPECT_EQ(TextIn(description, 32), system["Manufacturer"] + " " + system["Product Name"]);
+  EXPECT_EQ(TextIn(description, 48), chassis["Version"]);
+  EXPECT_EQ(TextIn(identity, 32), chassis["Serial Number"]);
+  EXPECT_EQ(TextIn(identity, 36), chassis["Asset Tag"]);
+  const uint8_t worst =
+      std::max({StateStatus(chassis["Boot-up State"]), StateStatus(chassis["Power Supply State"]),
+                StateStatus(chassis["Thermal State"])});
+  EXPECT_EQ(U8(BytesOf(snapshot, 2), 10), worst == 0 ? 1 : worst);
+}
+
+void CompareBios(const Snapshot& snapshot, const fs::path& text) {
+  const DecodedStructure expected = Decoded(text, "BIOS Information").at(0);
+  ASSERT_EQ(U32(snapshot.Children(2, 212), 0), 1U);
+  const std::byte* bios = BytesOf(snapshot, Oids(snapshot.Children(2, 212))[0]);
+  EXPECT_EQ(TextIn(bios, 32), expected["Vendor"]);
+  EXPECT_EQ(TextIn(bios, 36), expected["Version"]);
+  EXPECT_EQ(TextIn(bios, 40), expected["Release Date"]);
+}
+
+void CompareProcessor(const std::byte* processor, const DecodedStructure& expected) {
+  EXPECT_EQ(TextIn(processor, 72), expected["Version"]);
+  EXPECT_EQ(U32(processor, 24), NumberIn(expected["Max Speed"]));
+  EXPECT_EQ(U32(processor, 28), NumberIn(expected["Current Speed"]));
+  EXPECT_EQ(U32(processor, 56), NumberIn(expected["Core Count"]));
+  EXPECT_EQ(U32(processor, 60), NumberIn(expected["Core Enabled"]));
+  const std::string state = expected["Status"].substr(11);
+  const std::pair<const char*, uint32_t> states[] = {{"Enabled", 3}, {"Idle", 6}};
+  const auto code = std::find_if(std::begin(states), std::end(states),
+                                 [&](const auto& known) { return state == known.first; });
+  ASSERT_NE(code, std::end(states)) << state;
+  EXPECT_EQ(U32(processor, 40), code->second);
+  EXPECT_EQ(U8(processor, 10), 2);
+  // Families "Other" define no signature, whatever the decoder takes it from.
+  if (expected["Family"] != "Other") {
+    const auto [model, stepping] = SignatureTexts(expected["Signature"]);
+    EXPECT_EQ(TextIn(processor, 76), model);
+    EXPECT_EQ(TextIn(processor, 80), stepping);
+  }
+}
+
+void CompareProcessors(const Snapshot& snapshot, const fs::path& text) {
+  const auto expected = Decoded(text, "Processor Information");
+  const auto sockets = Oids(snapshot.Children(2, 196));
+  ASSERT_EQ(sockets.size(), expected.size());
+  size_t populated = 0;
+  for (size_t i = 0; i < sockets.size(); ++i) {
+    SCOPED_TRACE(expected[i]["Socket Designation"]);
+    EXPECT_EQ(TextIn(BytesOf(snapshot, sockets[i]), 28), expected[i]["Socket Designation"]);
+    const auto processors = Oids(snapshot.Children(sockets[i], 210));
+    if (expected[i]["Status"] == "Unpopulated") {
+      EXPECT_EQ(processors.size(), 0U);
+      continue;
+    }
+    ++populated;
+    ASSERT_EQ(processors.size(), 1U);
+    CompareProcessor(BytesOf(snapshot, processors[0]), expected[i]);
+  }
+  EXPECT_EQ(U32(snapshot.Children(2, 210), 0), populated);
+}
+
+void CompareMemoryDevice(const std::byte* memory, const DecodedStructure& expected) {
+  const uint64_t extended = U32(memory, 112);
+  const uint64_t capacity = extended != 0 ? extended << 20 : uint64_t{U32(memory, 24)} << 10;
+  EXPECT_EQ(capacity, BytesIn(expected["Size"]));
+  EXPECT_EQ(U32(memory, 16), NumberIn(expected["Total Width"]));
+  EXPECT_EQ(U32(memory, 20), NumberIn(expected["Data Width"]));
+  EXPECT_EQ(TextIn(memory, 68), expected["Locator"]);
+  EXPECT_EQ(TextIn(memory, 72), expected["Bank Locator"]);
+  EXPECT_EQ(TextIn(memory, 80), expected["Manufacturer"]);
+  EXPECT_EQ(TextIn(memory, 84), expected["Serial Number"]);
+  EXPECT_EQ(U32(memory, 44), NumberIn(expected["Speed"]));
+  EXPECT_EQ(TextIn(memory, 96), expected["Speed"] == "Unknown" ? "" : expected["Speed"]);
+  EXPECT_EQ(U32(memory, 108), NumberIn(expected["Rank"]));
+}
+
+void CompareMemory(const Snapshot& snapshot, const fs::path& text) {
+  auto expected = Decoded(text, "Memory Device");
+  std::erase_if(expected, [](const auto& s) { return s["Size"] == "No Module Installed"; });
+  const auto devices = Oids(snapshot.Children(2, 225));
+  ASSERT_EQ(devices.size(), expected.size());
+  for (size_t i = 0; i < devices.size(); ++i) {
+    SCOPED_TRACE(expected[i]["Locator"]);
+    CompareMemoryDevice(BytesOf(snapshot, devices[i]), expected[i]);
+  }
+}
+
+/// Calls `compare` with the snapshot of every machine and the decoder's text about it.
+void ForEveryMachine(const std::function<void(const Snapshot&, const fs::path&)>& compare) {
+  const auto folder = EnvironmentText("TQCIM_REAL_DATA");
+  if (!folder) GTEST_SKIP() << "TQCIM_REAL_DATA names no folder with tables of real machines";
+  int machines = 0;
+  for (const auto& entry : fs::directory_iterator(fs::path(*folder) / "smbios")) {
+    if (entry.path().extension() != ".bin") continue;
+    SCOPED_TRACE(entry.path().filename().string());
+    const auto snapshot = LoadFirmwareTable(entry.path());
+    compare(*snapshot, fs::path(entry.path()).replace_extension(".dmidecode.txt"));
+    ++machines;
+  }
+  EXPECT_GT(machines, 0) << "no table in " << *folder;
+}
+
+TEST(RealTables, TheChassisIsTheDecoders) {
+  ForEveryMachine(CompareChassis);
+}
+
+TEST(RealTables, TheBiosIsTheDecoders) {
+  ForEveryMachine(CompareBios);
+}
+
+TEST(RealTables, TheProcessorsAreTheDecoders) {
+  ForEveryMachine(CompareProcessors);
+}
+
+TEST(RealTables, TheMemoryIsTheDecoders) {
+  ForEveryMachine(CompareMemory);
+}
+
+TEST(RealTables, EveryMachineComesBackFromAStoreFile) {
+  ForEveryMachine([](const Snapshot& snapshot, const fs::path&) {
+    const std::string contents = FormatStoreFile(snapshot);
+    const auto again = ParseStoreFile(contents, "again");
+    EXPECT_TRUE(std::equal(snapshot.Objects().begin(), snapshot.Objects().end(),
+                           again->Objects().begin(), again->Objects().end()));
+  });
+}
+
+}  // namespace
+}  // namespace tqcim::store

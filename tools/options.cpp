@@ -1,0 +1,235 @@
+#include "tools/options.h"
+
+#include <CLI/CLI.hpp>
+#include <array>
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "tools/failure.h"
+
+namespace tqcim::tools {
+namespace {
+
+constexpr const char* kProgramFooter =
+    R"(Without a source option the environment variable TQCIM_SOURCE decides, else
+the file tqcim.json beside the program, else the embedded sample answers: an
+invented server, and every output says so.
+
+Exit status:
+  0  fine
+  1  there is no such class or instance
+  2  the command line or an object path on it is not valid
+  3  a store file, firmware table or other source can't be read or is damaged
+  4  the provider can't be loaded or answered with an error
+  5  the output can't be written
+
+Examples:
+  tqcim classes
+  tqcim list CIM_PhysicalMemory --firmware
+  tqcim get 'CIM_Processor.DeviceID="0"'
+  tqcim list --help)";
+
+constexpr const char* kClassesFooter =
+    R"(The worst status is that of the instances, in the order Other, Unknown, OK,
+Stressed, Error, NonRecover; a class whose instances have none shows "-".
+
+Examples:
+  tqcim classes
+  tqcim classes --store server.json
+  tqcim classes --format json)";
+
+constexpr const char* kListFooter =
+    R"(A table shows the columns that fit the terminal, keys and Status first, and
+names those that don't. A single instance is shown in full. "-" stands for a
+value that the instance doesn't have: null in JSON, an empty field in CSV.
+
+Examples:
+  tqcim list VORN_Chassis
+  tqcim list CIM_PhysicalMemory --firmware-table dmidecode.bin
+  tqcim list CIM_Processor --store server.json --format csv)";
+
+constexpr const char* kGetFooter =
+    R"(A path is CLASS.KEY="VALUE",KEY="VALUE",... and may have \\SERVER\NAMESPACE:
+in front. Quote it for the shell.
+
+Examples:
+  tqcim get 'CIM_Processor.DeviceID="0"'
+  tqcim get 'VORN_Chassis.Tag="mainsystemchassis"' --format json)";
+
+constexpr const char* kStoreFooter = R"(A store file is a whole machine as JSON: what --store reads.
+
+Examples:
+  tqcim store convert --firmware-table dmidecode.bin -o server.json
+  tqcim store check server.json)";
+
+constexpr const char* kConvertFooter = R"(The file is written as a whole or not at all.
+
+Examples:
+  tqcim store convert --firmware-table dmidecode.bin -o server.json
+  tqcim store convert --firmware -o server.json)";
+
+constexpr const char* kCheckFooter = R"(Examples:
+  tqcim store check server.json)";
+
+/// An option that names a source's file.
+CLI::Option* AddSourceFile(CLI::App& command, SourceOption& source, SourceOption::Kind kind,
+                           const char* name, const char* type, const char* description) {
+  const auto take = [&source, kind](const std::string& file) { source = {kind, file}; };
+  return command.add_option_function<std::string>(name, take, description)
+      ->type_name(type)
+      ->option_text(type);
+}
+
+/// The options of the two sources that are firmware tables.
+std::array<CLI::Option*, 2> AddTableOptions(CLI::App& command, SourceOption& source) {
+  CLI::Option* dump =
+      AddSourceFile(command, source, SourceOption::Kind::kFirmwareTable, "--firmware-table", "DUMP",
+                    "the firmware table in a dump file");
+  CLI::Option* firmware = command.add_flag_callback(
+      "--firmware", [&source] { source.kind = SourceOption::Kind::kFirmware; },
+      "this machine's firmware table");
+  firmware->option_text(" ");
+  dump->excludes(firmware);
+  return {dump, firmware};
+}
+
+/// The three source options, of which one may be given.
+void AddSourceOptions(CLI::App& command, SourceOption& source) {
+  CLI::Option* store = AddSourceFile(command, source, SourceOption::Kind::kStoreFile, "--store",
+                                     "FILE", "the machine in a store file (JSON)");
+  for (CLI::Option* table : AddTableOptions(command, source)) store->excludes(table);
+}
+
+void AddFormatOption(CLI::App& command, Format& format) {
+  static const std::map<std::string, Format> kFormats = {
+      {"table", Format::kTable}, {"json", Format::kJson}, {"csv", Format::kCsv}};
+  const auto take = [&format](const std::string& name) { format = kFormats.at(name); };
+  command.add_option_function<std::string>("--format", take, "table (default), json or csv")
+      ->type_name("FORMAT")
+      ->option_text("FORMAT")
+      ->check(CLI::Validator(
+          [](std::string& name) {
+            return kFormats.contains(name)
+                       ? ""
+                       : "there is no format " + name + ", only table, json and csv";
+          },
+          ""));
+}
+
+/// The commands as CLI11 knows them, and where it puts what it reads.
+class CommandLine {
+ public:
+  CommandLine() {
+    app_.footer(kProgramFooter);
+    app_.allow_windows_style_options(false);
+    app_.set_version_flag("--version", "tqcim " TQCIM_VERSION);
+    app_.get_help_ptr()->description("print this help");
+    app_.get_version_ptr()->description("print the version");
+    app_.get_formatter()->column_width(26);
+    app_.require_subcommand(1);
+    AddShowCommands();
+    AddStoreCommands();
+  }
+
+  Command Read(std::span<const std::string> arguments) {
+    try {
+      // CLI11 takes them from the back.
+      app_.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+      if (const auto* convert = std::get_if<ConvertCommand>(&*chosen_);
+          convert && convert->source.kind == SourceOption::Kind::kLibraryChoice) {
+        throw CLI::RequiredError("--firmware-table or --firmware");
+      }
+      return *chosen_;
+    } catch (const CLI::CallForHelp&) {
+      return ShowText{app_.help()};
+    } catch (const CLI::CallForVersion& version) {
+      return ShowText{std::string(version.what()) + "\n"};
+    } catch (const CLI::ParseError& error) {
+      throw Failure(ExitStatus::kUsage, Sentence(error));
+    }
+  }
+
+ private:
+  CLI::App* Add(CLI::App& parent, const char* name, const char* description, const char* footer) {
+    CLI::App* command = parent.add_subcommand(name, description);
+    command->footer(footer);
+    return command;
+  }
+
+  template <typename T>
+  void Choose(CLI::App& command, const T& values) {
+    command.callback([this, &values] { chosen_ = values; });
+  }
+
+  void AddShowCommands() {
+    CLI::App* classes = Add(
+        app_, "classes", "Every class: how many instances, and the worst status", kClassesFooter);
+    AddSourceOptions(*classes, classes_.source);
+    AddFormatOption(*classes, classes_.format);
+    Choose(*classes, classes_);
+
+    CLI::App* list = Add(app_, "list", "All instances of a class", kListFooter);
+    list->add_option("CLASS", list_.class_name, "the class, in any case")
+        ->option_text(" ")
+        ->required();
+    AddSourceOptions(*list, list_.source);
+    AddFormatOption(*list, list_.format);
+    list->add_flag("--full", list_.full, "no table: every property on a line");
+    Choose(*list, list_);
+
+    CLI::App* get = Add(app_, "get", "The instance that an object path names", kGetFooter);
+    get->add_option("PATH", get_.path, "the object path")->option_text(" ")->required();
+    AddSourceOptions(*get, get_.source);
+    AddFormatOption(*get, get_.format);
+    Choose(*get, get_);
+  }
+
+  void AddStoreCommands() {
+    CLI::App* store = Add(app_, "store", "Make and check store files", kStoreFooter);
+    store->require_subcommand(1);
+
+    CLI::App* convert =
+        Add(*store, "convert", "Write a firmware table as a store file", kConvertFooter);
+    AddTableOptions(*convert, convert_.source);
+    convert->add_option("-o,--output", convert_.output, "the store file to write")
+        ->type_name("FILE")
+        ->option_text("FILE")
+        ->required();
+    Choose(*convert, convert_);
+
+    CLI::App* check = Add(*store, "check", "Check a store file", kCheckFooter);
+    check->add_option("FILE", check_.file, "the store file")->option_text(" ")->required();
+    Choose(*check, check_);
+  }
+
+  /// The failure, and the command whose help has the answer.
+  std::string Sentence(const CLI::ParseError& error) const {
+    std::string command = "tqcim";
+    for (const CLI::App* app = &app_; !app->get_subcommands().empty();) {
+      app = app->get_subcommands().back();
+      command += " " + app->get_name();
+    }
+    const std::vector<std::string> unexpected = app_.remaining(true);
+    const std::string reason = unexpected.empty()
+                                   ? error.what()
+                                   : unexpected.front() + " is not expected after " + command;
+    return reason + " (see " + command + " --help)";
+  }
+
+  CLI::App app_{"The hardware of a server as instances of CIM classes.", "tqcim"};
+  ClassesCommand classes_;
+  ListCommand list_;
+  GetCommand get_;
+  ConvertCommand convert_;
+  CheckCommand check_;
+  std::optional<Command> chosen_;
+};
+
+}  // namespace
+
+Command ReadCommandLine(std::span<const std::string> arguments) {
+  return CommandLine().Read(arguments);
+}
+
+}  // namespace tqcim::tools

@@ -1,0 +1,54 @@
+/// What a command line asks for.
+#pragma once
+
+#include <span>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace tqcim::tools {
+
+enum class Format { kTable, kJson, kCsv };
+
+/// Where the machine's data come from, as the options say.
+struct SourceOption {
+  enum class Kind { kLibraryChoice, kStoreFile, kFirmwareTable, kFirmware };
+  Kind kind = Kind::kLibraryChoice;
+  /// The store file or dump file.
+  std::string file = {};
+};
+
+struct ShowText {
+  std::string text;
+};
+struct ClassesCommand {
+  SourceOption source;
+  Format format = Format::kTable;
+};
+struct ListCommand {
+  std::string class_name;
+  SourceOption source;
+  Format format = Format::kTable;
+  bool full = false;
+};
+struct GetCommand {
+  std::string path;
+  SourceOption source;
+  Format format = Format::kTable;
+};
+struct ConvertCommand {
+  /// One of the two firmware tables.
+  SourceOption source;
+  std::string output;
+};
+struct CheckCommand {
+  std::string file;
+};
+
+using Command =
+    std::variant<ShowText, ClassesCommand, ListCommand, GetCommand, ConvertCommand, CheckCommand>;
+
+/// Reads the command line; --help and --version become texts to show. Throws Failure (kUsage).
+Command ReadCommandLine(std::span<const std::string> arguments);
+
+}  // namespace tqcim::tools

@@ -1,0 +1,207 @@
+#include <algorithm>
+#include <memory>
+
+#include "host/management_host.h"
+#include "host/object_path.h"
+#include "host/results.h"
+#include "tools/commands.h"
+#include "tools/console.h"
+#include "tools/formats.h"
+#include "tools/nearest_names.h"
+#include "tools/source.h"
+
+namespace tqcim::tools {
+namespace {
+
+using host::HostError;
+using host::ManagementHost;
+
+ExitStatus StatusOf(HostError::Kind kind) {
+  switch (kind) {
+    case HostError::Kind::kUnknownClass:
+      return ExitStatus::kNotFound;
+    case HostError::Kind::kBadPath:
+      return ExitStatus::kUsage;
+    default:
+      return ExitStatus::kProviderFailed;
+  }
+}
+
+std::unique_ptr<ManagementHost> OpenHost() {
+  UseOwnLibraries();
+  try {
+    return ManagementHost::Open();
+  } catch (const HostError& error) {
+    throw Failure(StatusOf(error.kind()), error.what());
+  }
+}
+
+std::string Suggestion(const std::vector<std::string>& nearest) {
+  if (nearest.empty()) return "tqcim classes shows them all";
+  std::string text = "did you mean ";
+  for (const std::string& name : nearest) {
+    if (name != nearest.front()) text += name == nearest.back() ? " or " : ", ";
+    text += name;
+  }
+  return text + "?";
+}
+
+/// The served class of that name in any case.
+const host::ClassDefinition& FindClass(const ManagementHost& host, const std::string& name) {
+  const host::ClassDefinition* definition = host.schema().Find(name);
+  const std::vector<std::string> served = host.ClassNames();
+  if (definition == nullptr ||
+      std::find(served.begin(), served.end(), definition->name) == served.end()) {
+    throw Failure(ExitStatus::kNotFound, "there is no class '" + name + "' with instances; " +
+                                             Suggestion(NearestNames(name, served)));
+  }
+  return *definition;
+}
+
+struct Answer {
+  std::vector<host::Instance> instances;
+  host::Outcome outcome;
+  /// "Not found" is an answer, too: there is nothing.
+  bool ok() const { return outcome.ok() || outcome.result == host::kNotFound; }
+  std::string FailureText(const std::string& class_name) const {
+    return class_name + ": the provider answered " + outcome.Text();
+  }
+};
+
+Answer Enumerate(ManagementHost& host, const std::string& class_name) {
+  Answer answer;
+  answer.outcome = host.Enumerate(class_name, [&](host::Instance instance) {
+    answer.instances.push_back(std::move(instance));
+  });
+  return answer;
+}
+
+/// The class of a path that parses. Throws Failure unless the path names an instance of a served
+/// class.
+const host::ClassDefinition& ClassOfPath(const ManagementHost& host, const std::string& text) {
+  const host::ObjectPath path = host::ParseObjectPath(text);
+  const host::ClassDefinition* definition = nullptr;
+  if (!path.class_name.empty()) definition = &FindClass(host, path.class_name);
+  if (!path.NamesInstance()) {
+    throw Failure(ExitStatus::kUsage, "object path '" + text +
+                                          "' names no instance, but a namespace or a class; tqcim "
+                                          "list shows all instances of a class");
+  }
+  return *definition;
+}
+
+Answer Get(ManagementHost& host, const std::string& path) {
+  Answer answer;
+  try {
+    answer.outcome = host.Get(
+        path, [&](host::Instance instance) { answer.instances.push_back(std::move(instance)); });
+  } catch (const HostError& error) {
+    // This one can tell the nearest names.
+    if (error.kind() == HostError::Kind::kUnknownClass) ClassOfPath(host, path);
+    throw Failure(StatusOf(error.kind()), error.what());
+  }
+  return answer;
+}
+
+std::vector<host::Instance> TakeInstances(Answer answer, const std::string& class_name) {
+  if (!answer.ok()) throw Failure(ExitStatus::kProviderFailed, answer.FailureText(class_name));
+  return std::move(answer.instances);
+}
+
+/// The worse a status, the later it stands; a text that isn't here counts as worse than all.
+constexpr std::string_view kStatusOrder[] = {"Other",    "Unknown", "OK",
+                                             "Stressed", "Error",   "NonRecover"};
+
+std::optional<std::string> WorstStatus(const std::vector<host::Instance>& instances) {
+  const auto severity = [](const std::string& status) {
+    return std::find(std::begin(kStatusOrder), std::end(kStatusOrder), status);
+  };
+  std::optional<std::string> worst;
+  for (const host::Instance& instance : instances) {
+    const host::Property* property = instance.Find("Status");
+    const auto* status = property ? std::get_if<std::string>(&property->value) : nullptr;
+    if (status && (!worst || severity(*worst) < severity(*status))) worst = *status;
+  }
+  return worst;
+}
+
+/// Tables name their source themselves; whoever keeps the other formats in a file is told once.
+std::string Remark(const Source& source, Format format) {
+  if (!source.sample || format == Format::kTable) return {};
+  return "this is " + source.description +
+         "; --store, --firmware-table and --firmware choose another source";
+}
+
+std::string Text(const Listing& listing, Format format, const Layout& layout) {
+  switch (format) {
+    case Format::kJson:
+      return JsonText(listing.instances);
+    case Format::kCsv:
+      return CsvText(listing);
+    default:
+      return TableText(listing, layout);
+  }
+}
+
+std::string Text(const std::vector<ClassSummary>& classes, Format format, const Source& source,
+                 const Layout& layout) {
+  switch (format) {
+    case Format::kJson:
+      return JsonText(classes);
+    case Format::kCsv:
+      return CsvText(classes);
+    default:
+      return TableText(classes, source.description, layout);
+  }
+}
+
+}  // namespace
+
+CommandResult Run(const ClassesCommand& command, const Layout& layout) {
+  const Source source = OpenSource(command.source);
+  const std::unique_ptr<ManagementHost> host = OpenHost();
+  CommandResult result{.output = {}, .remark = Remark(source, command.format)};
+  std::vector<ClassSummary> summaries;
+  for (const std::string& name : host->ClassNames()) {
+    const Answer answer = Enumerate(*host, name);
+    if (answer.ok()) {
+      summaries.push_back({name, answer.instances.size(), WorstStatus(answer.instances)});
+    } else {
+      // The other classes are shown all the same.
+      result.remark = answer.FailureText(name);
+      result.status = ExitStatus::kProviderFailed;
+    }
+  }
+  result.output = Text(summaries, command.format, source, layout);
+  return result;
+}
+
+CommandResult Run(const ListCommand& command, const Layout& layout) {
+  const Source source = OpenSource(command.source);
+  const std::unique_ptr<ManagementHost> host = OpenHost();
+  const host::ClassDefinition& definition = FindClass(*host, command.class_name);
+  const Listing listing{
+      .definition = &definition,
+      .instances = TakeInstances(Enumerate(*host, definition.name), definition.name),
+      .source = source.description};
+  const bool blocks = command.full && command.format == Format::kTable;
+  return {.output = blocks ? BlockText(listing, layout) : Text(listing, command.format, layout),
+          .remark = Remark(source, command.format)};
+}
+
+CommandResult Run(const GetCommand& command, const Layout& layout) {
+  const Source source = OpenSource(command.source);
+  const std::unique_ptr<ManagementHost> host = OpenHost();
+  Answer answer = Get(*host, command.path);
+  const host::ClassDefinition& definition = ClassOfPath(*host, command.path);
+  const Listing listing{.definition = &definition,
+                        .instances = TakeInstances(std::move(answer), definition.name),
+                        .source = source.description};
+  if (listing.instances.empty()) {
+    throw Failure(ExitStatus::kNotFound, "no instance is named by '" + command.path + "'");
+  }
+  return {.output = Text(listing, command.format, layout),
+          .remark = Remark(source, command.format)};
+}
+
+}  // namespace tqcim::tools

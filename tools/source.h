@@ -1,0 +1,21 @@
+/// The source that a command asks for, put in service.
+#pragma once
+
+#include <string>
+
+#include "tools/options.h"
+
+namespace tqcim::tools {
+
+struct Source {
+  /// For people: "the store file server.json".
+  std::string description;
+  /// Whether its data are invented.
+  bool sample;
+};
+
+/// Makes the object library serve the source, or without one what the library itself would choose.
+/// Throws Failure (kBadInput).
+Source OpenSource(const SourceOption& option);
+
+}  // namespace tqcim::tools
