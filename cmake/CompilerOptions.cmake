@@ -4,7 +4,7 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 
 if(TQCIM_SANITIZERS)
   add_compile_options(-fsanitize=${TQCIM_SANITIZERS} -fno-sanitize-recover=all
-                      -fno-omit-frame-pointer -O1)
+                      -fno-omit-frame-pointer)
   add_link_options(-fsanitize=${TQCIM_SANITIZERS})
 endif()
 

@@ -33,16 +33,17 @@ double UtcOffsetMinutes() {
 
 SupportText FormatCimDateTime(const std::tm* time) {
   constexpr size_t kTextSize = 26;
-  constexpr size_t kDateSize = 24;
   if (!IsCalendarTime(*time)) return {};
   SupportText text(static_cast<char*>(SMAllocMem(kTextSize)));
   if (!text) return {};
   ReadTimeZone();
-  std::snprintf(text.get(), kDateSize, "%04d%02d%02d%02d%02d%02d.000000", time->tm_year + 1900,
+  char date[80];
+  std::snprintf(date, sizeof date, "%04d%02d%02d%02d%02d%02d.000000", time->tm_year + 1900,
                 time->tm_mon + 1, time->tm_mday, time->tm_hour, time->tm_min, time->tm_sec);
   const double minutes = UtcOffsetMinutes();
   char offset[5] = {};
   std::snprintf(offset, sizeof offset, minutes < 0 ? "%04f" : "+%03f", minutes);
+  std::strcpy(text.get(), date);
   std::strcat(text.get(), offset);
   return text;
 }

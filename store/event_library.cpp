@@ -1,13 +1,14 @@
 #include "platform/libraries.h"
+#include "store/log_records.h"
 
-// No source of the store tells of log records: every log has none.
-
-void* XEPGetEELR(uint32_t* /*logOid*/, uint32_t /*index*/) {
-  return nullptr;
+void* XEPGetEELR(uint32_t* logOid, uint32_t index) {
+  return logOid == nullptr ? nullptr : TQStoreCopyLogRecord(*logOid, index);
 }
 
-uint32_t XEPGetEELRNum(uint32_t* /*logOid*/) {
-  return 0;
+uint32_t XEPGetEELRNum(uint32_t* logOid) {
+  return logOid == nullptr ? 0 : TQStoreCountLogRecords(*logOid);
 }
 
-void XEPFreeGeneric(void* /*record*/) {}
+void XEPFreeGeneric(void* record) {
+  SMILFreeGeneric(record);
+}

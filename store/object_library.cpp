@@ -6,6 +6,7 @@
 #include "platform/libraries.h"
 #include "store/configuration.h"
 #include "store/export_guard.h"
+#include "store/log_records.h"
 #include "store/snapshot_builder.h"
 #include "store/sources.h"
 #include "store/store.h"
@@ -75,6 +76,14 @@ char* SMILDOGetByOffsetUTF8Str(void* dataObject, uint32_t offset) {
 
 void SMILFreeGeneric(void* block) {
   Store::Free(block);
+}
+
+uint32_t TQStoreCountLogRecords(uint32_t logOid) {
+  return NullOnFailure([&] { return OpenStore().CountRecords(logOid); });
+}
+
+void* TQStoreCopyLogRecord(uint32_t logOid, uint32_t index) {
+  return NullOnFailure([&] { return OpenStore().CopyRecord(logOid, index); });
 }
 
 int32_t TQStoreOpen(const char* source, char* message, uint32_t messageSize) {

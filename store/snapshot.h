@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <memory>
 #include <span>
+#include <string>
 #include <unordered_map>
 #include <vector>
 
@@ -18,6 +19,7 @@ enum class BlockKind : uint32_t {
   kSharedList,  ///< a child list inside a snapshot, which the caller's hold keeps alive
   kObject,      ///< a caller's own copy of a data object
   kText,        ///< a text made for the caller
+  kRecord,      ///< a log record made for the caller
 };
 
 /// Stands hidden before every block that leaves the store.
@@ -34,6 +36,16 @@ inline BlockPrefix* PrefixOf(void* block) {
   return static_cast<BlockPrefix*>(block) - 1;
 }
 
+/// A record of an event log. `time` is in seconds since 1970-01-01 UTC, 0 for none; `severity` is
+/// in the coding of object statuses.
+struct LogRecord {
+  int64_t time;
+  uint8_t severity;
+  std::u16string text;
+
+  bool operator==(const LogRecord&) const = default;
+};
+
 /// A data object as it stands in a snapshot.
 struct StoredObject {
   uint32_t oid;
@@ -42,6 +54,8 @@ struct StoredObject {
   std::vector<std::byte> bytes;
   /// The objects under which it is listed, in the order given.
   std::vector<uint32_t> parents;
+  /// What an event log holds, the oldest first.
+  std::vector<LogRecord> records;
 
   bool operator==(const StoredObject&) const = default;
 };

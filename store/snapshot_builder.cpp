@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <unordered_set>
 
+#include "platform/layouts/event_log.h"
 #include "platform/layouts/header.h"
 #include "platform/layouts/system.h"
 #include "store/store_error.h"
@@ -56,14 +57,26 @@ void ObjectDraft::SetInteger(const FieldInfo& field, uint64_t value) {
 
 void ObjectDraft::SetText(const FieldInfo& field, std::string_view utf8) {
   RequireOwnField(field);
+  std::u16string text = StoredText(field.name, utf8);
+  std::erase_if(texts_, [&](const auto& known) { return known.first == field.offset; });
+  texts_.emplace_back(field.offset, std::move(text));
+}
+
+void ObjectDraft::AddRecord(int64_t time, Status severity, std::string_view utf8) {
+  if (layout_->type != layout::event_log::kType) {
+    throw StoreError(place_, std::string("a ") + layout_->name + " has no records");
+  }
+  records_.push_back({time, static_cast<uint8_t>(severity), StoredText("a record", utf8)});
+}
+
+std::u16string ObjectDraft::StoredText(const char* name, std::string_view utf8) const {
   const auto refuse = [&](const char* reason) {
-    throw StoreError(place_, std::string("the text of ") + field.name + " " + reason);
+    throw StoreError(place_, std::string("the text of ") + name + " " + reason);
   };
   if (utf8.find('\0') != std::string_view::npos) refuse("contains a NUL character");
   std::optional<std::u16string> utf16 = Utf16FromUtf8(utf8);
   if (!utf16) refuse("is not well-formed UTF-8");
-  std::erase_if(texts_, [&](const auto& text) { return text.first == field.offset; });
-  texts_.emplace_back(field.offset, std::move(*utf16));
+  return std::move(*utf16);
 }
 
 StoredObject ObjectDraft::Finish() {
@@ -81,7 +94,7 @@ StoredObject ObjectDraft::Finish() {
     if (text != texts_.end()) std::for_each(text->second.begin(), text->second.end(), append);
     append(u'\0');
   }
-  return {oid_, layout_->type, std::move(bytes_), std::move(parents_)};
+  return {oid_, layout_->type, std::move(bytes_), std::move(parents_), std::move(records_)};
 }
 
 void ObjectDraft::Store(uint32_t offset, uint32_t width, uint64_t value) {

@@ -57,6 +57,9 @@ class ObjectDraft {
     return *this;
   }
 
+  /// Adds a record behind those that an event log has. `utf8` must be well-formed and without NUL.
+  void AddRecord(int64_t time, Status severity, std::string_view utf8);
+
   uint32_t Oid() const { return oid_; }
   const std::string& Place() const { return place_; }
   const std::vector<uint32_t>& Parents() const { return parents_; }
@@ -69,6 +72,8 @@ class ObjectDraft {
  private:
   void Store(uint32_t offset, uint32_t width, uint64_t value);
   void RequireOwnField(const layout::FieldInfo& field) const;
+  /// The text as the store holds it; `name` is what errors call it.
+  std::u16string StoredText(const char* name, std::string_view utf8) const;
 
   uint32_t oid_;
   const layout::ObjectLayout* layout_;
@@ -77,6 +82,7 @@ class ObjectDraft {
   std::vector<std::byte> bytes_;
   /// The texts set so far, by the offset of their field.
   std::vector<std::pair<uint32_t, std::u16string>> texts_;
+  std::vector<LogRecord> records_;
 };
 
 /// Collects objects and checks that together they make a complete store.

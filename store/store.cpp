@@ -8,6 +8,7 @@
 #include <thread>
 #include <utility>
 
+#include "platform/layouts/event_log.h"
 #include "platform/layouts/header.h"
 #include "store/text.h"
 
@@ -25,6 +26,19 @@ std::byte* NewBlock(BlockKind kind, size_t size) {
 void* CopyOf(const StoredObject& object) {
   std::byte* block = NewBlock(BlockKind::kObject, object.bytes.size());
   if (block != nullptr) std::memcpy(block, object.bytes.data(), object.bytes.size());
+  return block;
+}
+
+void* CopyOf(const LogRecord& record) {
+  namespace layout_of = layout::event_record;
+  const size_t textSize = (record.text.size() + 1) * sizeof(char16_t);
+  std::byte* block = NewBlock(BlockKind::kRecord, layout_of::kBodySize + textSize);
+  if (block == nullptr) return nullptr;
+  std::memset(block, 0, layout_of::kBodySize);
+  std::memcpy(block + layout_of::kTime.offset, &record.time, sizeof record.time);
+  std::memcpy(block + layout_of::kSeverity.offset, &record.severity, sizeof record.severity);
+  std::memcpy(block + layout_of::kText.offset, &layout_of::kBodySize, sizeof(uint32_t));
+  std::memcpy(block + layout_of::kBodySize, record.text.c_str(), textSize);
   return block;
 }
 
@@ -71,15 +85,32 @@ void Store::Replace(std::unique_ptr<Snapshot> snapshot) {
   Publish(std::move(snapshot));
 }
 
-void* Store::CopyObject(uint32_t oid) const {
+template <typename Take>
+auto Store::WithObject(uint32_t oid, Take take) const {
+  using Taken = decltype(take(std::declval<const StoredObject&>()));
   const ReadSection view(*this);
-  if (view->current == nullptr) return nullptr;
-  if (const StoredObject* object = view->current->Find(oid)) return CopyOf(*object);
+  if (view->current == nullptr) return Taken{};
+  if (const StoredObject* object = view->current->Find(oid)) return take(*object);
   for (const Snapshot* retired : view->retired) {
     if (!retired->IsHeld()) continue;
-    if (const StoredObject* object = retired->Find(oid)) return CopyOf(*object);
+    if (const StoredObject* object = retired->Find(oid)) return take(*object);
   }
-  return nullptr;
+  return Taken{};
+}
+
+void* Store::CopyObject(uint32_t oid) const {
+  return WithObject(oid, [](const StoredObject& object) { return CopyOf(object); });
+}
+
+uint32_t Store::CountRecords(uint32_t oid) const {
+  return WithObject(
+      oid, [](const StoredObject& object) { return static_cast<uint32_t>(object.records.size()); });
+}
+
+void* Store::CopyRecord(uint32_t oid, uint32_t index) const {
+  return WithObject(oid, [index](const StoredObject& object) {
+    return index < object.records.size() ? CopyOf(object.records[index]) : nullptr;
+  });
 }
 
 void* Store::ListChildren(uint32_t parent, uint16_t type) const {

@@ -37,6 +37,10 @@ class Store {
 
   /// A private copy of a data object.
   void* CopyObject(uint32_t oid) const;
+  /// The number of records of an event log; 0 for any other OID.
+  uint32_t CountRecords(uint32_t oid) const;
+  /// Record `index` (from 0) of an event log.
+  void* CopyRecord(uint32_t oid, uint32_t index) const;
   /// The child list, shared by all who ask: costs no copy and no allocation.
   void* ListChildren(uint32_t parent, uint16_t type) const;
 
@@ -55,6 +59,10 @@ class Store {
     std::vector<Snapshot*> retired;
   };
   class ReadSection;
+
+  /// What `take` makes of the object, or a null value where there is none.
+  template <typename Take>
+  auto WithObject(uint32_t oid, Take take) const;
 
   void Publish(std::unique_ptr<Snapshot> snapshot);
   /// Shows readers `current` and the other snapshots that are still held, and frees those that

@@ -69,6 +69,11 @@ uint64_t IntegerOf(const JsonDocument& document, const JsonValue& value, const F
   return value.number;
 }
 
+bool IsInt64(const JsonValue& value) {
+  return value.kind == Kind::kNegative ||
+         (value.kind == Kind::kUnsigned && value.number <= std::numeric_limits<int64_t>::max());
+}
+
 bool ShareBytes(const FieldInfo& a, const FieldInfo& b) {
   return a.offset < b.offset + b.width && b.offset < a.offset + a.width;
 }
@@ -102,9 +107,20 @@ void ReadFields(const JsonDocument& document, const JsonValue& fields, const Obj
   }
 }
 
+void ReadRecord(const JsonDocument& document, const JsonValue& record, ObjectDraft& draft) {
+  document.RequireMembers(record, "a log record", {"time", "severity", "text"});
+  const JsonValue* time = record.Member("time");
+  if (time != nullptr && !IsInt64(*time)) {
+    document.Refuse(*time, "\"time\" takes whole seconds since 1970-01-01 UTC");
+  }
+  const JsonValue& text = document.Required(record, "text", Kind::kText);
+  draft.AddRecord(time == nullptr ? 0 : static_cast<int64_t>(time->number),
+                  StatusOf(document, record.Member("severity")), text.text);
+}
+
 void ReadObject(const JsonDocument& document, const JsonValue& object, SnapshotBuilder& builder) {
   document.RequireMembers(object, "an object of the store",
-                          {"oid", "type", "status", "parents", "fields"});
+                          {"oid", "type", "status", "parents", "fields", "records"});
   const uint32_t oid = OidOf(document, document.Required(object, "oid", Kind::kUnsigned));
   const ObjectLayout& layout = LayoutOf(document, document.Required(object, "type", Kind::kText));
   const Status status = StatusOf(document, object.Member("status"));
@@ -116,6 +132,9 @@ void ReadObject(const JsonDocument& document, const JsonValue& object, SnapshotB
       builder.Add(oid, layout, status, std::move(parents), document.PlaceOf(object));
   if (const JsonValue* fields = document.Optional(object, "fields", Kind::kObject)) {
     ReadFields(document, *fields, layout, draft);
+  }
+  if (const JsonValue* records = document.Optional(object, "records", Kind::kArray)) {
+    for (const JsonValue& record : records->items) ReadRecord(document, record, draft);
   }
 }
 

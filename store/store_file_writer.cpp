@@ -67,6 +67,12 @@ std::string FormatStatus(uint64_t status) {
   return status < words::kStatus.size() ? JsonText(words::kStatus[status]) : std::to_string(status);
 }
 
+std::string FormatRecord(const LogRecord& record) {
+  return "{\"time\": " + std::to_string(record.time) +
+         ", \"severity\": " + FormatStatus(record.severity) +
+         ", \"text\": " + JsonText(Utf8FromUtf16(record.text)) + "}";
+}
+
 std::string FormatObject(const StoredObject& object) {
   const auto layout =
       std::find_if(std::begin(layout::kCatalogue), std::end(layout::kCatalogue),
@@ -83,7 +89,12 @@ std::string FormatObject(const StoredObject& object) {
     if (value.empty() || IsToldByAnother(object, field, layout->fields)) continue;
     fields += (fields.empty() ? "" : ",\n") + ("        " + JsonText(field.name)) + ": " + value;
   }
+  std::string records;
+  for (const LogRecord& record : object.records) {
+    records += (records.empty() ? "" : ",\n") + ("        " + FormatRecord(record));
+  }
   if (!fields.empty()) text += ",\n      \"fields\": {\n" + fields + "\n      }";
+  if (!records.empty()) text += ",\n      \"records\": [\n" + records + "\n      ]";
   return text + "\n    }";
 }
 

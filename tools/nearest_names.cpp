@@ -43,6 +43,7 @@ std::vector<std::string> NearestNames(std::string_view text,
                    [](const auto& a, const auto& b) { return a.first < b.first; });
   if (candidates.size() > kMostNames) candidates.resize(kMostNames);
   std::vector<std::string> nearest;
+  nearest.reserve(candidates.size());
   for (auto& [distance, name] : candidates) nearest.push_back(std::move(name));
   return nearest;
 }

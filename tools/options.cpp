@@ -117,6 +117,12 @@ void AddFormatOption(CLI::App& command, Format& format) {
           ""));
 }
 
+CLI::App* Add(CLI::App& parent, const char* name, const char* description, const char* footer) {
+  CLI::App* command = parent.add_subcommand(name, description);
+  command->footer(footer);
+  return command;
+}
+
 /// The commands as CLI11 knows them, and where it puts what it reads.
 class CommandLine {
  public:
@@ -151,12 +157,6 @@ class CommandLine {
   }
 
  private:
-  CLI::App* Add(CLI::App& parent, const char* name, const char* description, const char* footer) {
-    CLI::App* command = parent.add_subcommand(name, description);
-    command->footer(footer);
-    return command;
-  }
-
   template <typename T>
   void Choose(CLI::App& command, const T& values) {
     command.callback([this, &values] { chosen_ = values; });

@@ -96,10 +96,13 @@ FittedTable FitTable(const Table& table, size_t mandatory, const Layout& layout)
     }
     return text.substr(0, text.find_last_not_of(' ') + 1) + "\n";
   };
-  FittedTable fitted{.text = line(table.headings, false), .left_out = table.headings};
+  FittedTable fitted{.text = line(table.headings, false), .left_out = {}};
   for (const auto& row : table.rows) fitted.text += line(row, layout.colour);
-  for (auto column = columns.rbegin(); column != columns.rend(); ++column) {
-    fitted.left_out.erase(fitted.left_out.begin() + static_cast<std::ptrdiff_t>(column->position));
+  for (size_t position = 0; position < table.headings.size(); ++position) {
+    const bool shown =
+        std::any_of(columns.begin(), columns.end(),
+                    [position](const Column& column) { return column.position == position; });
+    if (!shown) fitted.left_out.push_back(table.headings[position]);
   }
   return fitted;
 }

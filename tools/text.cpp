@@ -16,6 +16,8 @@ template <typename... Functions>
 struct Overloaded : Functions... {
   using Functions::operator()...;
 };
+template <typename... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;
 
 std::string NumberText(auto number) {
   std::array<char, 32> digits;

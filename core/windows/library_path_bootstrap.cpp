@@ -9,6 +9,7 @@
 #include <delayimp.h>
 #include <shellapi.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -41,11 +42,11 @@ void Report(const char* message) {
 
 /// The value of an environment variable, and its size with the terminator; null where it is unset.
 Text NTDelayLoadGetEnv(const char* name, size_t* size) {
-  // Some runtime libraries call an unset variable a failure.
+  // Some runtime libraries call an unset variable a failure, and asking for nothing but the size.
   if (std::getenv(name) == nullptr) return nullptr;
   size_t needed = 0;
   int result = getenv_s(&needed, nullptr, 0, name);
-  if (result != 0) {
+  if (result != 0 && !(result == ERANGE && needed != 0)) {
     Report("NTDelayLoadGetEnv: failed to get num chars: retVal: %d varName: %s\n", result, name);
     return nullptr;
   }

@@ -21,6 +21,8 @@ inline constexpr ObjectLayout kLayout{kType, "eventLog", kFields};
 
 /// A record of a log. It has no data-object header: offsets count from the start of the record.
 namespace event_record {
+inline constexpr uint32_t kBodySize = 20;
+
 /// Seconds since 1970-01-01 UTC; 0 = none.
 inline constexpr Field<int64_t> kTime{"time", 0};
 /// In the coding of object statuses.

@@ -9,6 +9,26 @@
 namespace tqcim::testing {
 namespace {
 
+/// Boards, units, ports and management devices.
+void FillDevices(FakeStore& store) {
+  for (const uint16_t type :
+       std::initializer_list<uint16_t>{50, 52, 96, 192, 193, 208, 228, 259, 320, 322, 384}) {
+    store.List(2, type, {type + 1000u});
+    store.Add(type + 1000u, type);
+  }
+  store.Object(1052).Ucs2(40, u"card");
+  for (const uint32_t field : {172, 192, 212, 216}) store.Object(1096).Utf8(field, "adapter");
+  store.Object(1192).Ucs2(44, u"LPT1");
+  store.Object(1193).Ucs2(40, u"COM1");
+  store.Object(1228).Utf8(80, "slot");
+  store.Object(1259).Ucs2(32, u"board");
+  for (const uint32_t field : {52, 60, 68, 72}) store.Object(1320).Ucs2(field, u"port");
+  store.Object(1322).Ucs2(44, u"address");
+  store.List(1384, 389, {389});
+  store.Object(1384).Utf8(32, "unit");
+  store.Add(389, 389).U64(28, 1342341000).Utf8(36, "maker").Utf8(52, "revision");
+}
+
 /// Objects of the root, a chassis and OID 2 that let each class read all that it can.
 void FillServer(FakeStore& store) {
   store.Add(1, 1);
@@ -43,6 +63,7 @@ void FillServer(FakeStore& store) {
   for (const uint32_t field : {68, 72, 80, 84, 96}) {
     (field == 68 ? store.Add(200, 225) : store.Object(200)).Ucs2(field, u"memory");
   }
+  FillDevices(store);
 }
 
 /// The surroundings of one request, gone and balanced after it.
@@ -125,13 +146,37 @@ TEST_P(FailingCallsTest, RefusedPutsStopNothing) {
   EXPECT_EQ(accepted, DeliveredWithPutResult(GetParam(), Hr(0x80041005)));
 }
 
-constexpr Request kRequests[] = {
-    {"VORN_BIOSSettings", true}, {"VORN_BIOSSettings", false},   {"VORN_System", true},
-    {"VORN_System", false},      {"VORN_BIOSExtensions", true},  {"VORN_BIOSExtensions", false},
-    {"CIM_BIOSElement", true},   {"CIM_BIOSElement", false},     {"VORN_Chassis", true},
-    {"VORN_Chassis", false},     {"Vorn_SoftwareFeature", true}, {"Vorn_SoftwareFeature", false},
-    {"VORN_Firmware", true},     {"CIM_PhysicalMemory", true},   {"CIM_PhysicalMemory", false},
-    {"CIM_Processor", true},     {"CIM_Processor", false}};
+constexpr Request kRequests[] = {{"VORN_BIOSSettings", true},
+                                 {"VORN_BIOSSettings", false},
+                                 {"VORN_System", true},
+                                 {"VORN_System", false},
+                                 {"VORN_BIOSExtensions", true},
+                                 {"VORN_BIOSExtensions", false},
+                                 {"CIM_BIOSElement", true},
+                                 {"CIM_BIOSElement", false},
+                                 {"VORN_Chassis", true},
+                                 {"VORN_Chassis", false},
+                                 {"Vorn_SoftwareFeature", true},
+                                 {"Vorn_SoftwareFeature", false},
+                                 {"VORN_Firmware", true},
+                                 {"CIM_PhysicalMemory", true},
+                                 {"CIM_PhysicalMemory", false},
+                                 {"CIM_Processor", true},
+                                 {"CIM_Processor", false},
+                                 {"VORN_Baseboard", true},
+                                 {"VORN_Baseboard", false},
+                                 {"CIM_FRU", true},
+                                 {"CIM_Slot", true},
+                                 {"CIM_SerialController", true},
+                                 {"CIM_ParallelController", true},
+                                 {"CIM_PointingDevice", true},
+                                 {"VORN_NetworkPort", true},
+                                 {"VORN_ManagedSystemServicesDevice", true},
+                                 {"VORN_ManagedSystemServicesDevice", false},
+                                 {"Vorn_RemoteAccessServicePort", true},
+                                 {"Vorn_RemoteAccessServicePort", false},
+                                 {"VORN_SDCardDevice", true},
+                                 {"VORN_SDCardDevice", false}};
 
 std::string NameOf(const ::testing::TestParamInfo<Request>& info) {
   return std::string(info.param.className) + (info.param.enumerate ? "_enumerated" : "_got");

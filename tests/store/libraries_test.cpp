@@ -20,7 +20,10 @@ namespace {
 
 using testing::Oids;
 using testing::TemporaryFolder;
+using testing::Text;
 using testing::U32;
+using testing::U64;
+using testing::U8;
 
 /// The sentence of a failed opening; empty on success.
 std::string Open(const std::string& source) {
@@ -259,10 +262,44 @@ TEST(SupportLibrary, IniValuesThatCannotBeDeliveredAreRefused) {
   EXPECT_EQ(value, 9);
 }
 
-TEST(EventLibrary, EveryLogIsEmpty) {
+/// The event library with the sample server, whose logs are objects 70 and 71.
+class EventLibrary : public ObjectLibrary {};
+
+TEST_F(EventLibrary, ServesTheRecordsOfALog) {
   uint32_t log = 70;
-  EXPECT_EQ(XEPGetEELRNum(&log), 0U);
-  EXPECT_EQ(XEPGetEELR(&log, 0), nullptr);
+  ASSERT_EQ(XEPGetEELRNum(&log), 10U);
+  void* record = XEPGetEELR(&log, 2);
+  ASSERT_NE(record, nullptr);
+  EXPECT_EQ(U64(record, 0), 1779158825U) << "2026-05-19 02:47:05 UTC";
+  EXPECT_EQ(U8(record, 12), 4);
+  EXPECT_EQ(Text(record, 16), u"Power Supply 2: AC input lost");
+  XEPFreeGeneric(record);
+  log = 71;
+  EXPECT_EQ(XEPGetEELRNum(&log), 3U);
+}
+
+TEST_F(EventLibrary, ARecordOfALogMayHaveNoTime) {
+  uint32_t log = 70;
+  void* record = XEPGetEELR(&log, 6);
+  ASSERT_NE(record, nullptr);
+  EXPECT_EQ(U64(record, 0), 0U);
+  EXPECT_EQ(U8(record, 12), 0);
+  XEPFreeGeneric(record);
+}
+
+TEST_F(EventLibrary, ThereIsNoRecordPastTheEnd) {
+  uint32_t log = 70;
+  EXPECT_EQ(XEPGetEELR(&log, 10), nullptr);
+  EXPECT_EQ(XEPGetEELR(&log, 0xFFFFFFFF), nullptr);
+}
+
+TEST_F(EventLibrary, WhatIsNoLogHasNoRecords) {
+  for (uint32_t oid : {2U, 20U, 999999U}) {
+    EXPECT_EQ(XEPGetEELRNum(&oid), 0U) << oid;
+    EXPECT_EQ(XEPGetEELR(&oid, 0), nullptr) << oid;
+  }
+  EXPECT_EQ(XEPGetEELRNum(nullptr), 0U);
+  EXPECT_EQ(XEPGetEELR(nullptr, 0), nullptr);
   XEPFreeGeneric(nullptr);
 }
 

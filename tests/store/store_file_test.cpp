@@ -258,6 +258,39 @@ TEST(StoreFile, WhatMakesNoStoreIsRefusedWithTheLineOfTheObject) {
             "f.json:7: object 3 has no parent");
 }
 
+TEST(StoreFile, TheRecordsOfALogAreReadInTheirOrder) {
+  const auto snapshot = ParseStoreFile(WithObjects(R"({"oid": 3, "type": "eventLog", "parents": [2],
+"records": [{"time": -7, "severity": "critical", "text": "\u00e4"},
+            {"time": 9223372036854775807, "severity": 9, "text": ""}, {"text": "c"}]})"),
+                                       "f.json");
+  EXPECT_EQ(
+      snapshot->Find(3)->records,
+      (std::vector<LogRecord>{{-7, 4, u"\u00e4"}, {9223372036854775807, 9, u""}, {0, 1, u"c"}}));
+}
+
+TEST(StoreFile, RecordsOfAnotherShapeAreRefused) {
+  const auto failure = [](const std::string& record) {
+    return ObjectFailure(R"({"oid": 3, "type": "eventLog", "parents": [2],)"
+                         "\n\"records\": [" +
+                         record + "]}");
+  };
+  EXPECT_EQ(failure(R"({"time": 9223372036854775808, "text": "a"})"),
+            "f.json:7: \"time\" takes whole seconds since 1970-01-01 UTC");
+  EXPECT_EQ(failure(R"({"time": "now", "text": "a"})"),
+            "f.json:7: \"time\" takes whole seconds since 1970-01-01 UTC");
+  EXPECT_NE(failure(R"({"time": 1})"), "no failure");
+  EXPECT_NE(failure(R"({"text": "a", "words": 1})"), "no failure");
+  EXPECT_NE(failure(R"({"text": "a", "severity": "grave"})"), "no failure");
+  EXPECT_EQ(failure(R"({"text": "a\u0000b"})"),
+            "f.json:6: the text of a record contains a NUL character");
+}
+
+TEST(StoreFile, OnlyALogHasRecords) {
+  EXPECT_EQ(
+      ObjectFailure(R"({"oid": 3, "type": "bios", "parents": [2], "records": [{"text": "a"}]})"),
+      "f.json:6: a bios has no records");
+}
+
 TEST(StoreFile, DeepNestingIsRefusedAndDoesNotExhaustTheStack) {
   EXPECT_EQ(FailureOf(std::string(1000000, '[')), "f.json:1: values are nested too deep");
   std::string objects;

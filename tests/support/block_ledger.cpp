@@ -24,6 +24,7 @@ struct Block {
   size_t size;
   std::unique_ptr<uint8_t[]> memory;
   std::map<uint32_t, std::string> utf8Texts;
+  uint32_t timesLent = 0;
 };
 
 std::atomic<uint64_t> ledgers = 0;
@@ -61,7 +62,8 @@ void* BlockLedger::HandOut(BlockKind kind, FakeBlock::Image image) {
 }
 
 void* BlockLedger::Lend(BlockKind kind, std::vector<uint8_t>& bytes) {
-  ++blocks.try_emplace(bytes.data(), Block{kind, bytes.size(), nullptr, {}})
+  ++BooksOfThread()
+        .blocks.try_emplace(bytes.data(), Block{kind, bytes.size(), nullptr, {}})
         .first->second.timesLent;
   live_.fetch_add(1, std::memory_order_relaxed);
   return bytes.data();
@@ -85,8 +87,9 @@ void BlockLedger::TakeBack(const char* freeFunction, std::initializer_list<Block
     return;
   }
   uint8_t* const bytes = taken.memory.get();
-  if (taken.kind == BlockKind::kDataObject)
+  if (taken.kind == BlockKind::kDataObject) {
     books.lastBytes[OidOf(bytes)].assign(bytes, bytes + taken.size);
+  }
   if (bytes) std::memset(bytes, kPoison, taken.size);
   books.blocks.erase(found);
 }

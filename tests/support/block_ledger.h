@@ -27,6 +27,8 @@ class BlockLedger {
   ~BlockLedger();
 
   void* HandOut(BlockKind kind, FakeBlock::Image image);
+  /// Hands out the bytes themselves, which stay the caller's, any number of times at once.
+  void* Lend(BlockKind kind, std::vector<uint8_t>& bytes);
   /// `freeFunction` is the name of the function that frees the given kinds. Null is no block.
   void TakeBack(const char* freeFunction, std::initializer_list<BlockKind> kinds, void* block);
   /// Takes everything back; when no other thread uses the ledger.

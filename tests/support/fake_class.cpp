@@ -7,7 +7,7 @@ namespace tqcim::testing {
 HRESULT RecordingInstance::Put(LPCWSTR name, LONG flags, VARIANT* value, CIMTYPE type) {
   ExpectHeld("Put");
   EXPECT_EQ(0, flags);
-  puts_.push_back({Printable(name), V_VT(value), type, ValueText(*value)});
+  if (recording_) puts_.push_back({Printable(name), V_VT(value), type, ValueText(*value)});
   return putResult_;
 }
 
@@ -24,7 +24,7 @@ HRESULT FakeClass::SpawnInstance(LONG flags, IWbemClassObject** instance) {
     *instance = nullptr;
     return failure->second;
   }
-  auto* const spawned = new RecordingInstance(putResult_);
+  auto* const spawned = new RecordingInstance(putResult_, recording_);
   spawned->next_ = newest_.load(std::memory_order_relaxed);
   while (!newest_.compare_exchange_weak(spawned->next_, spawned, std::memory_order_relaxed)) {
   }

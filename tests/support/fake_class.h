@@ -13,8 +13,8 @@ namespace tqcim::testing {
 /// An instance that notes what is put into it. Its references are those of whoever spawned it.
 class RecordingInstance final : public RefusingClassObject {
  public:
-  explicit RecordingInstance(HRESULT putResult)
-      : RefusingClassObject("an instance"), putResult_(putResult) {}
+  RecordingInstance(HRESULT putResult, bool recording)
+      : RefusingClassObject("an instance"), putResult_(putResult), recording_(recording) {}
 
   HRESULT STDMETHODCALLTYPE Put(LPCWSTR name, LONG flags, VARIANT* value, CIMTYPE type) override;
 
@@ -23,7 +23,8 @@ class RecordingInstance final : public RefusingClassObject {
  private:
   friend class FakeClass;
 
-  HRESULT putResult_;
+  const HRESULT putResult_;
+  const bool recording_;
   Puts puts_;
   RecordingInstance* next_ = nullptr;
 };
@@ -42,12 +43,16 @@ class FakeClass final : public RefusingClassObject {
   /// What every Put returns.
   void SetPutResult(HRESULT result) { putResult_ = result; }
 
+  /// From now on instances forget what is put into them, for walks over very many.
+  void RecordNothing() { recording_ = false; }
+
   /// Calls of SpawnInstance so far.
   uint32_t Spawns() const { return spawns_; }
 
  private:
   std::map<uint32_t, HRESULT> failures_;
   HRESULT putResult_ = S_OK;
+  bool recording_ = true;
   std::atomic<uint32_t> spawns_ = 0;
   std::atomic<RecordingInstance*> newest_ = nullptr;
 };

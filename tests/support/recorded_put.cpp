@@ -39,7 +39,7 @@ std::string ArrayText(SAFEARRAY* array, VARTYPE elementType) {
   void* data = nullptr;
   if (FAILED(SafeArrayAccessData(array, &data))) return "<unreadable array>";
   std::string text = "{";
-  for (LONG i = 0; i <= upperBound; ++i) {
+  for (LONG i = 0; i <= upperBound - lowerBound; ++i) {
     if (i != 0) text += ",";
     text += ElementText(actualType, data, static_cast<ULONG>(i));
   }

@@ -166,6 +166,20 @@ B                                                                   11
 )")) << table;
 }
 
+TEST_F(Tables, GiveWayToBlocksWhereReferencesWouldBeCut) {
+  constexpr std::string_view kProbes = R"(
+      {"oid": 4, "type": "chassisDescription", "parents": [2], "fields": {"name": "Box"}},
+      {"oid": 5, "type": "temperatureProbe", "parents": [2], "fields": {"name": "Inlet"}},
+      {"oid": 6, "type": "temperatureProbe", "parents": [2], "fields": {"name": "Outlet"}})";
+  const std::string antecedent = R"(\\.\root\cimv2\vorn:CIM_TemperatureSensor.CreationClassName=)";
+  const std::string blocks = List("CIM_PackageTempSensor", kProbes);
+  EXPECT_TRUE(blocks.starts_with("\n  Antecedent  " + antecedent)) << blocks;
+  EXPECT_NE(blocks.find("\n\n  Antecedent  " + antecedent), std::string::npos) << blocks;
+  EXPECT_EQ(blocks.find("\u2026"), std::string::npos) << blocks;
+  SetEnvironment("COLUMNS", "400");
+  EXPECT_TRUE(List("CIM_PackageTempSensor", kProbes).starts_with("\nAntecedent\n" + antecedent));
+}
+
 TEST_F(Tables, SayThatAClassHasNoInstances) {
   const std::string file = Write("store.json", StoreFile(""));
   const ToolRun run = Run({"list", "CIM_PhysicalMemory", "--store", file});

@@ -73,13 +73,10 @@ TEST_P(EventLogTest, EventTimeIsLocalTimeWithItsOffsetCutToFourCharacters) {
   }
 }
 
-TEST_P(EventLogTest, TimesBeyond32BitsAreDates) {
-  // 1 February 2106, 00:00:00 UTC and 2^32 seconds after 1970, a few days later.
-  AddRecord(u"Record 3").I64(0, 4294425600).I64(0, 4294425600);
-  AddRecord(u"Record 4").I64(0, 4294967296);
+TEST_P(EventLogTest, TheTimeHas64Bits) {
+  AddRecord(u"Record 3").I64(0, 4294967296);
   EnumerateClass();
-  EXPECT_EQ("21060201000000.000000+0.0", Value(3, "EventTime"));
-  EXPECT_EQ("21060207062816.000000+0.0", Value(4, "EventTime"));
+  EXPECT_EQ("21060207062816.000000+0.0", Value(3, "EventTime"));
 }
 
 TEST_P(EventLogTest, StatusFollowsTheSeverity) {

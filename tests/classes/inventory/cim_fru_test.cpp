@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "tests/support/handler_test.h"
 #include "tests/support/time_zone.h"
 

@@ -146,6 +146,13 @@ TEST_F(CimPhysicalMemoryTest, EndsAtTheFirstDeviceThatCannotBeRead) {
   EXPECT_EQ(0u, DeliveredCount());
 }
 
+TEST_F(CimPhysicalMemoryTest, EndsAfter65536DevicesInsteadOfStartingOver) {
+  definition.RecordNothing();
+  store.ListLong(2, 225, std::vector<uint32_t>(65'537, 200));
+  EXPECT_EQ(0, Enumerate("CIM_PhysicalMemory"));
+  EXPECT_EQ(65'536u, DeliveredCount());
+}
+
 TEST_F(CimPhysicalMemoryTest, StopsAtAFailedSpawnAndReturnsIt) {
   AddSecondDevice();
   definition.SpawnNothing(1, Hr(0x80041006));

@@ -205,11 +205,11 @@ TEST_F(CimProcessorTest, GoesOnAfterARefusalAndReturnsTheLastDelivery) {
 }
 
 TEST_F(CimProcessorTest, EndsAfter65536SocketsInsteadOfStartingOver) {
+  definition.RecordNothing();
   store.Remove(110);
   store.List(2, 196, std::vector<uint32_t>(65'537, 100));
   EXPECT_EQ(0, Enumerate("CIM_Processor"));
   EXPECT_EQ(65'536u, DeliveredCount());
-  EXPECT_EQ("65535", Value(65'535, "DeviceID"));
 }
 
 TEST_F(CimProcessorTest, IsGotByItsDeviceId) {

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "tests/support/handler_test.h"
 
 namespace tqcim::testing {
@@ -188,6 +190,14 @@ TEST_F(VornBaseboardTest, TheTagKeyIsFoundInAnyCaseAmongOtherKeys) {
   EXPECT_EQ(0, Get("VORN_Baseboard", keys));
   EXPECT_EQ("1", Value(0, "Tag"));
   EXPECT_EQ((std::vector<ULONG>{0, 1, 2}), keys.Reads());
+}
+
+TEST_F(VornBaseboardTest, TheTagsValueTellsWhetherItIsAStringNotThePathsViewOfIt) {
+  EXPECT_EQ(0,
+            Get("VORN_Baseboard", FakeKey{OLESTR("Tag"), Variant::Text(OLESTR("1")), CIM_SINT32}));
+  EXPECT_EQ("1", Value(0, "Tag"));
+  EXPECT_EQ(Hr(0x80041002),
+            Get("VORN_Baseboard", FakeKey{OLESTR("Tag"), Variant::Int32(1), CIM_STRING}));
 }
 
 TEST_F(VornBaseboardTest, WithoutAStringInTheTagItIsNotFound) {

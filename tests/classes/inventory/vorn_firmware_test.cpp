@@ -60,6 +60,13 @@ TEST_F(VornFirmwareTest, EndsAtTheFirstObjectThatCannotBeRead) {
   EXPECT_EQ(0u, DeliveredCount());
 }
 
+TEST_F(VornFirmwareTest, EndsAfter65536ObjectsInsteadOfStartingOver) {
+  definition.RecordNothing();
+  store.ListLong(2, 19, std::vector<uint32_t>(65'537, 50));
+  EXPECT_EQ(0, Enumerate("VORN_Firmware"));
+  EXPECT_EQ(65'536u, DeliveredCount());
+}
+
 TEST_F(VornFirmwareTest, StopsAtAFailedSpawnAndReturnsIt) {
   definition.SpawnNothing(1, Hr(0x80041006));
   EXPECT_EQ(Hr(0x80041006), Enumerate("VORN_Firmware"));

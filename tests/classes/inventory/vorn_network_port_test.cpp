@@ -1,3 +1,6 @@
+#include <initializer_list>
+#include <tuple>
+
 #include "tests/support/handler_test.h"
 
 namespace tqcim::testing {

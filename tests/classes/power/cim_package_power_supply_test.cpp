@@ -55,15 +55,14 @@ TEST_F(CimPackagePowerSupplyTest, RefersToSuppliesByNumberWithoutReadingTheirNam
   EXPECT_EQ(Ends(kSupply0, kShelfA), Delivered(0));
 }
 
-TEST_F(CimPackagePowerSupplyTest,
-       TheCounterIsNeverResetSoASecondChassisWithAsManySuppliesAddsNone) {
+TEST_F(CimPackagePowerSupplyTest, TheCounterIsNeverResetSoAsManySuppliesInASecondChassisAddNone) {
   AddSecondChassis({210, 211});
   EXPECT_EQ(0, Enumerate("CIM_PackagePowerSupply"));
   ASSERT_EQ(2u, DeliveredCount());
   EXPECT_EQ(Ends(kSupply1, kShelfA), Delivered(1));
 }
 
-TEST_F(CimPackagePowerSupplyTest, TheCounterIsNeverResetSoASecondChassisAddsOnlyItsThirdSupply) {
+TEST_F(CimPackagePowerSupplyTest, TheCounterIsNeverResetSoTheSecondChassisAddsItsThirdOnly) {
   AddSecondChassis({210, 211, 212});
   EXPECT_EQ(0, Enumerate("CIM_PackagePowerSupply"));
   ASSERT_EQ(3u, DeliveredCount());

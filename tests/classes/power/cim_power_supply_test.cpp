@@ -250,8 +250,7 @@ TEST_F(CimPowerSupplyTest, ANameThatMatchesNothingIsSuccessWithNothing) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
-TEST_F(CimPowerSupplyTest,
-       GettingTriesAsManySuppliesAsTheSystemHasChassisSoOneChassisHidesTheSecond) {
+TEST_F(CimPowerSupplyTest, GettingIsBoundedByTheNumberOfChassisSoOneHidesTheSecondSupply) {
   EXPECT_EQ(0, GetByName(OLESTR("PS2")));
   EXPECT_EQ(0u, definition.Spawns());
 }
@@ -265,7 +264,7 @@ TEST_F(CimPowerSupplyTest, GettingFindsTheSecondButNotTheThirdSupplyOfTwoChassis
   EXPECT_EQ((Texts{"PS2"}), Values("Name"));
 }
 
-TEST_F(CimPowerSupplyTest, GettingEndsWithTheSuppliesOfAChassisThatHasFewerThanThereAreChassis) {
+TEST_F(CimPowerSupplyTest, GettingEndsAtTheLastSupplyOfAChassisThoughThereAreMoreChassis) {
   AddSupply(202, u"PS3");
   SetChassis({100, 101, 102});
   store.List(100, 21, {200});

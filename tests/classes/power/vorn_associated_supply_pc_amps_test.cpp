@@ -152,6 +152,13 @@ TEST_F(VornAssociatedSupplyPcAmpsTest, AProbeThatFailsToBeReadOnceGoesToTheNextS
   EXPECT_EQ(Ends(kSupply2, kSensor2), Delivered(1));
 }
 
+TEST_F(VornAssociatedSupplyPcAmpsTest, TheNextSupplyGoesOnWhereTheProbesOfTheFirstEnded) {
+  store.Object(201).Ucs2(44, u"PS 1");
+  store.FailRead(301, 1);
+  EXPECT_EQ(0, Associate());
+  EXPECT_EQ(1u, DeliveredCount());
+}
+
 TEST_F(VornAssociatedSupplyPcAmpsTest, AProbeThatCannotBeReadEndsTheWalkOfEverySupply) {
   store.FailRead(300);
   EXPECT_EQ(0, Associate());

@@ -158,12 +158,6 @@ TEST_F(VornPowerConsumptionDataTest, TheHourThatDaylightSavingRepeatsIsToldTwice
   EXPECT_EQ("20151101013000.000000-360", TimeOf(1446363000));
 }
 
-TEST_F(VornPowerConsumptionDataTest, DaylightSavingSouthOfTheEquatorIsNoDifferent) {
-  const TimeZone zone("AAA-10BBB,M10.1.0,M4.1.0/3");
-  EXPECT_EQ("20150114202653.000000+600", TimeOf(1421227613));
-  EXPECT_EQ("20150714192653.000000+600", TimeOf(1436866013));
-}
-
 TEST_F(VornPowerConsumptionDataTest, ATimeThatIsNoDateIsLeftUnset) {
   EXPECT_EQ("<absent>", TimeOf(253402300800));
   EXPECT_EQ("<absent>", TimeOf(std::numeric_limits<int64_t>::max()));

@@ -10,6 +10,8 @@ TimeZone::TimeZone(const char* zone) {
   if (const char* previous = std::getenv("TZ")) previous_ = previous;
   _putenv_s("TZ", zone);
   ReadTimeZone();
+  // The runtime takes the length of daylight saving from the system's zone and keeps it.
+  _dstbias = -3600;
 }
 
 TimeZone::~TimeZone() {

@@ -20,6 +20,12 @@ TEST_F(VornPowerConsumptionDataOnPosixTest, TheLocalTimeDecidesWhichYearIsTheLas
   EXPECT_EQ("<absent>", TimeOf(253402318800));
 }
 
+TEST_F(VornPowerConsumptionDataOnPosixTest, DaylightSavingSouthOfTheEquatorIsNoDifferent) {
+  const TimeZone zone("AAA-10BBB,M10.1.0,M4.1.0/3");
+  EXPECT_EQ("20150114202653.000000+600", TimeOf(1421227613));
+  EXPECT_EQ("20150714192653.000000+600", TimeOf(1436866013));
+}
+
 /// The native stand-in for the ANSI code page is UTF-8.
 TEST_F(VornPowerConsumptionDataOnPosixTest, TheNameIsDecodedAsUtf8) {
   store.Object(500).Utf8(96,

@@ -1,0 +1,161 @@
+// Registration in the machine's registry, and its removal.
+#include <optional>
+#include <thread>
+
+#include "core/com.h"
+#include "tests/core/windows/loaded_module.h"
+#include "tests/support/fake_services.h"
+#include "tests/support/handler_test.h"
+
+namespace tqcim::testing {
+namespace {
+
+const std::string kClsidKey = "SOFTWARE\\CLASSES\\CLSID\\{5E3A9C17-4B2D-41F0-9A6E-2C7D81B0E4F3}";
+const std::string kServerKey = kClsidKey + "\\InprocServer32";
+
+/// A value as it stands in the registry: its type, and all of its bytes.
+struct RegistryValue {
+  DWORD type;
+  std::string bytes;
+
+  bool operator==(const RegistryValue&) const = default;
+};
+
+RegistryValue Text(const std::string& text) {
+  return {REG_SZ, text + '\0'};
+}
+
+/// Nothing where there is no such key or value; a null name is the default value.
+std::optional<RegistryValue> ReadValue(const std::string& keyPath, const char* name) {
+  HKEY key;
+  if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, keyPath.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) {
+    return std::nullopt;
+  }
+  DWORD type = 0;
+  char bytes[512];
+  DWORD size = sizeof bytes;
+  const LSTATUS read =
+      RegQueryValueExA(key, name, nullptr, &type, reinterpret_cast<BYTE*>(bytes), &size);
+  RegCloseKey(key);
+  if (read != ERROR_SUCCESS) return std::nullopt;
+  return RegistryValue{type, std::string(bytes, size)};
+}
+
+bool Exists(const std::string& keyPath) {
+  HKEY key;
+  if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, keyPath.c_str(), 0, KEY_READ, &key) != ERROR_SUCCESS) {
+    return false;
+  }
+  RegCloseKey(key);
+  return true;
+}
+
+/// A locator stands where the management service's stands, so that no test touches a real
+/// namespace.
+class RegistrationTest : public ::testing::Test {
+ protected:
+  ~RegistrationTest() override {
+    module.UnregisterServer();
+    // The connections to root\cimv2 are left to the end of the process.
+    for (LONG i = services.References(); i > 0; --i) services.Release();
+  }
+
+  FakeServices services;
+  FakeLocator locator{services};
+  HRESULT locatorCreation = S_OK;
+  FakeFactory factory{[this](REFIID iid, void** object) {
+    return SUCCEEDED(locatorCreation) ? locator.QueryInterface(iid, object) : locatorCreation;
+  }};
+  ClassRegistration locatorRegistration{CLSID_WbemLocator, factory};
+  LoadedModule module;
+};
+
+TEST_F(RegistrationTest, WritesTheServerOfTheClass) {
+  EXPECT_EQ(S_OK, module.RegisterServer());
+  EXPECT_EQ(Text(""), ReadValue(kClsidKey, nullptr));
+  EXPECT_EQ(Text(module.FileName()), ReadValue(kServerKey, nullptr));
+  EXPECT_EQ(Text("Both"), ReadValue(kServerKey, "ThreadingModel"));
+}
+
+TEST_F(RegistrationTest, MayBeRepeated) {
+  EXPECT_EQ(S_OK, module.RegisterServer());
+  EXPECT_EQ(S_OK, module.RegisterServer());
+  EXPECT_EQ(Text(module.FileName()), ReadValue(kServerKey, nullptr));
+}
+
+TEST_F(RegistrationTest, LetsComMakeTheProvider) {
+  module.RegisterServer();
+  CLSID clsid{};
+  CLSIDFromString(OLESTR("{5e3a9c17-4b2d-41f0-9a6e-2c7d81b0e4f3}"), &clsid);
+  Com<IWbemProviderInit> provider;
+  EXPECT_EQ(S_OK, CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER, IID_IWbemProviderInit,
+                                   provider.ReceiveVoid()));
+}
+
+TEST_F(RegistrationTest, DoesNotTouchTheManagementService) {
+  module.RegisterServer();
+  EXPECT_TRUE(locator.Paths().empty());
+}
+
+TEST_F(RegistrationTest, IsRemovedWhole) {
+  module.RegisterServer();
+  EXPECT_TRUE(Exists(kServerKey));
+  EXPECT_EQ(S_OK, module.UnregisterServer());
+  EXPECT_FALSE(Exists(kServerKey));
+  EXPECT_FALSE(Exists(kClsidKey));
+  EXPECT_TRUE(Exists("SOFTWARE\\CLASSES\\CLSID"));
+}
+
+TEST_F(RegistrationTest, RemovingWhatIsNotThereIsSuccess) {
+  EXPECT_EQ(S_OK, module.UnregisterServer());
+  EXPECT_EQ(S_OK, module.UnregisterServer());
+}
+
+TEST_F(RegistrationTest, RemovalDeletesTheNamespace) {
+  EXPECT_EQ(S_OK, module.UnregisterServer());
+  EXPECT_EQ((std::vector<std::string>{"\\\\.\\root\\cimv2"}), locator.Paths());
+  EXPECT_EQ((std::vector<FakeServices::Call>{{"__NameSpace.Name=\"Vorn\"", 0, false, false}}),
+            services.DeleteCalls());
+  EXPECT_TRUE(locator.WasAskedFor(IID_IWbemLocator));
+}
+
+TEST_F(RegistrationTest, RemovalReleasesTheLocatorAndNotTheConnection) {
+  module.UnregisterServer();
+  EXPECT_EQ(0, locator.References());
+  EXPECT_EQ(1, services.References());
+}
+
+TEST_F(RegistrationTest, ANamespaceThatCannotBeDeletedIsNotReported) {
+  services.SetDeleteResult(Hr(0x80041002));
+  EXPECT_EQ(S_OK, module.UnregisterServer());
+}
+
+TEST_F(RegistrationTest, WithoutAConnectionNothingIsDeleted) {
+  for (const HRESULT result : {Hr(0x8004100E), S_FALSE}) {
+    locator.SetConnectResult(result);
+    EXPECT_EQ(S_OK, module.UnregisterServer());
+  }
+  EXPECT_EQ(2u, locator.Paths().size());
+  EXPECT_TRUE(services.DeleteCalls().empty());
+}
+
+TEST_F(RegistrationTest, WithoutALocatorTheRegistryIsCleanedAllTheSame) {
+  module.RegisterServer();
+  locatorCreation = E_FAIL;
+  EXPECT_EQ(S_OK, module.UnregisterServer());
+  EXPECT_FALSE(Exists(kClsidKey));
+  EXPECT_TRUE(services.DeleteCalls().empty());
+}
+
+TEST_F(RegistrationTest, DoesNotEnterCom) {
+  std::thread([&] {
+    EXPECT_EQ(S_OK, module.UnregisterServer());
+    // The first one on this thread.
+    EXPECT_EQ(S_OK, CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED));
+    CoUninitialize();
+  }).join();
+  EXPECT_EQ(1u, services.DeleteCalls().size());
+}
+
+}  // namespace
+}  // namespace tqcim::testing
