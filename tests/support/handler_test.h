@@ -14,7 +14,9 @@
 namespace tqcim::testing {
 
 /// A result from its bits, as WMI's documentation writes it: Hr(0x80041002) is "not found".
-constexpr HRESULT Hr(uint32_t bits) { return static_cast<HRESULT>(bits); }
+constexpr HRESULT Hr(uint32_t bits) {
+  return static_cast<HRESULT>(bits);
+}
 
 /// Expects of every test that it leaves no text, no array and no entry into COM behind. The members
 /// of derived fixtures are gone before the books are closed.

@@ -22,6 +22,7 @@ class ChassisFixture : public HandlerTest {
         .U8(26, 0xFF)
         .U8(27, 0x81)
         .U8(28, 200)
+        .U8(29, 0xAA)
         .U16(30, 0x0123)
         .Ucs2(32, name)
         .Ucs2(40, u"Example R700")

@@ -81,7 +81,7 @@ TEST_F(ChassisRollUpsTest, PowerSuppliesAndRegulatorsAreOkAtBest) {
 
 TEST_F(ChassisRollUpsTest, AFailedRegulatorShowsInTheRegulatorsOnly) {
   AddChildren(21, 2100, {4, 2});
-  store.Object(2100).U8(40, 11);
+  store.Object(2100).U8(40, 11).U8(41, 0xAA);
   store.Object(2101).U8(40, 9);
   EXPECT_EQ("OK", Now("PsStatus"));
   EXPECT_EQ("Error", Now("VrmStatus"));
@@ -103,6 +103,7 @@ TEST_F(ChassisRollUpsTest, RegulatorsAloneLeaveThePowerSuppliesOk) {
 
 TEST_F(ChassisRollUpsTest, MemoryRedundancyIsAText) {
   AddChildren(232, 23200, {2, 2});
+  store.Object(23200).U8(19, 0xAA);
   store.Object(23201).U8(18, 1);
   constexpr std::pair<uint8_t, const char*> kRows[] = {
       {0, "Not active"}, {1, "Active"}, {2, "Unknown"}, {255, "Unknown"}};
@@ -147,6 +148,7 @@ TEST_F(ChassisRollUpsTest, RedundancyIsAbsentWithoutAGroupThatHasMembers) {
 
 TEST_F(ChassisRollUpsTest, SecurityBreachIsTranslated) {
   AddChildren(28, 2800, {2});
+  store.Object(2800).U8(18, 0xAA);
   constexpr std::pair<uint8_t, const char*> kRows[] = {{0, "2"}, {1, "5"}, {2, "3"},
                                                        {3, "4"}, {4, "2"}, {255, "2"}};
   for (const auto& [state, value] : kRows) {

@@ -164,7 +164,7 @@ TEST_F(CimDiscreteSensorTest, AnyOtherStateIsGoodOrBadOrUnknown) {
   constexpr std::pair<uint16_t, const char*> kRows[] = {{0, "Unknown"},      {1, "Good"},
                                                         {2, "Bad"},          {3, "Unknown"},
                                                         {0x0101, "Unknown"}, {0xFFFF, "Unknown"}};
-  for (const uint16_t type : Types{22, 23, 24, 25, 28}) {
+  for (const uint16_t type : Types{22, 23, 24, 25, 28, 58, 59}) {
     store.Add(500, type).Ucs2(72, u"probe");
     for (const auto& [state, text] : kRows) {
       store.Object(500).U32(20, 0xEEEE0000u | state);

@@ -147,8 +147,11 @@ TEST_P(EventLogTest, TheSearchForTheLogEndsAfterPosition65535) {
   std::vector<uint32_t> oids(65'538, 309);
   oids[65'536] = 310;
   store.ListLong(2, 31, oids);
+  store.RecordCalls();
   EXPECT_EQ(0, EnumerateClass());
   EXPECT_EQ(0u, DeliveredCount());
+  // A list and a log, and their release, at each position.
+  EXPECT_EQ(65'536u * 4, store.Calls().size());
   oids[65'535] = 310;
   store.ListLong(2, 31, oids);
   EXPECT_EQ(0, GetRecord(2));

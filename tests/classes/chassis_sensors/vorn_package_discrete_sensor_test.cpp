@@ -157,6 +157,7 @@ TEST_F(VornPackageDiscreteSensorTest, ReturnsSuccessWhateverTheSinkSaysAndKeeps)
 }
 
 TEST_F(VornPackageDiscreteSensorTest, ASpawnWithoutInstanceEndsThePairsOfThatChassisOnly) {
+  ListDiscrete(2, 22, {220});
   ListDiscrete(2, 24, {240, 241});
   ListDiscrete(3, 24, {340});
   definition.SpawnNothing(1, Hr(0x80041006));

@@ -19,7 +19,8 @@ class CimProcessorTest : public HandlerTest {
         .Ucs2(72, u"Example Brand")
         .Ucs2(76, u"Example 6130 CPU @ 2.40GHz")
         .Ucs2(80, u"4")
-        .U16(84, 0xFFFF);
+        .U16(84, 0xFFFF)
+        .U16(86, 0xAAAA);
     store.List(2, 196, {100});
     store.List(100, 210, {110});
   }

@@ -6,8 +6,8 @@ namespace {
 class VornFirmwareTest : public HandlerTest {
  protected:
   VornFirmwareTest() {
-    store.Add(51, 19).U8(20, 8).Ucs2(32, u"4.10").Ucs2(36, u"Management controller");
-    store.Add(50, 19).U8(20, 255).Ucs2(32, u"1.2").Ucs2(36, u"Backplane");
+    store.Add(51, 19).U8(20, 8).U8(21, 0xAA).Ucs2(32, u"4.10").Ucs2(36, u"Management controller");
+    store.Add(50, 19).U8(20, 255).U8(21, 0xAA).Ucs2(32, u"1.2").Ucs2(36, u"Backplane");
     store.List(2, 19, {51, 50});
   }
 };
