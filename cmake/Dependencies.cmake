@@ -8,5 +8,9 @@ foreach(library CLI nlohmann)
   file(CREATE_LINK ${TQCIM_${library}_PARENT}/${library} ${TQCIM_HEADER_LIBRARIES}/${library}
        SYMBOLIC)
 endforeach()
+find_path(TQCIM_SimpleIni_PARENT NAMES SimpleIni.h
+          PATHS /usr/include NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+file(CREATE_LINK ${TQCIM_SimpleIni_PARENT}/SimpleIni.h ${TQCIM_HEADER_LIBRARIES}/SimpleIni.h
+     SYMBOLIC)
 add_library(header_libraries INTERFACE)
 target_include_directories(header_libraries SYSTEM INTERFACE ${TQCIM_HEADER_LIBRARIES})

@@ -1,7 +1,7 @@
 /// The computer's name, as it stands in `SystemName` and `Name` properties.
 #pragma once
 
-#include "core/com.h"
+#include "platform/com.h"
 
 namespace tqcim {
 

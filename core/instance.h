@@ -1,7 +1,7 @@
 /// An instance that a handler builds and delivers.
 #pragma once
 
-#include "core/com.h"
+#include "core/variant.h"
 
 namespace tqcim {
 

@@ -1,7 +1,7 @@
 /// Reading the keys of a parsed object path.
 #pragma once
 
-#include "core/com.h"
+#include "core/variant.h"
 
 namespace tqcim {
 

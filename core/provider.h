@@ -1,7 +1,7 @@
 /// The instance provider that the management service loads.
 #pragma once
 
-#include "core/com.h"
+#include "platform/com.h"
 #include "core/reference_count.h"
 
 namespace tqcim {

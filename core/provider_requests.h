@@ -1,7 +1,7 @@
 /// The two requests that the provider answers.
 #pragma once
 
-#include "core/com.h"
+#include "platform/com.h"
 
 namespace tqcim {
 

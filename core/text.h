@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "core/com.h"
+#include "platform/com.h"
 
 namespace tqcim {
 

@@ -52,7 +52,7 @@ std::string SharedProvider(const Schema& schema) {
 
 /// Initialises the provider; its status comes through the sink.
 void Initialise(IWbemProviderInit& init, Namespace& name_space) {
-  const ComPtr<InitSink> sink(new InitSink);
+  const Com<InitSink> sink(new InitSink);
   WideText name = ToWide(kNamespace);
   const HRESULT called =
       init.Initialize(nullptr, 0, name.data(), nullptr, &name_space, nullptr, sink.get());
@@ -86,17 +86,14 @@ ProviderRegistration FindRegistration(const Schema& schema) {
 ActiveProvider::ActiveProvider(const std::filesystem::path& module,
                                const ProviderRegistration& registration, Namespace& name_space)
     : module_(module) {
-  void* object = nullptr;
-  HRESULT result = module_.GetClassObject(registration.clsid, IID_IClassFactory, &object);
+  HRESULT result =
+      module_.GetClassObject(registration.clsid, IID_IClassFactory, factory_.ReceiveVoid());
   if (FAILED(result)) RefuseModule("gives no class factory", result);
-  factory_.reset(static_cast<IClassFactory*>(object));
-  result = factory_->CreateInstance(nullptr, IID_IWbemProviderInit, &object);
+  result = factory_->CreateInstance(nullptr, IID_IWbemProviderInit, init_.ReceiveVoid());
   if (FAILED(result)) RefuseModule("makes no provider", result);
-  init_.reset(static_cast<IWbemProviderInit*>(object));
   Initialise(*init_, name_space);
-  result = init_->QueryInterface(IID_IWbemServices, &object);
+  result = init_->QueryInterface(IID_IWbemServices, services_.ReceiveVoid());
   if (FAILED(result)) RefuseModule("has a provider that serves no instances", result);
-  services_.reset(static_cast<IWbemServices*>(object));
 }
 
 }  // namespace tqcim::host

@@ -33,9 +33,9 @@ class ActiveProvider {
 
  private:
   Module module_;
-  ComPtr<IClassFactory> factory_;
-  ComPtr<IWbemProviderInit> init_;
-  ComPtr<IWbemServices> services_;
+  Com<IClassFactory> factory_;
+  Com<IWbemProviderInit> init_;
+  Com<IWbemServices> services_;
 };
 
 }  // namespace tqcim::host

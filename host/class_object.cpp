@@ -78,9 +78,9 @@ ClassObject::ClassObject(std::shared_ptr<const Schema> schema, const ClassDefini
   put_.resize(values_.size());
 }
 
-ComPtr<ClassObject> ClassObject::Definition(std::shared_ptr<const Schema> schema,
+Com<ClassObject> ClassObject::Definition(std::shared_ptr<const Schema> schema,
                                             const ClassDefinition& definition) {
-  return ComPtr<ClassObject>(new ClassObject(std::move(schema), definition, Kind::kDefinition));
+  return Com<ClassObject>(new ClassObject(std::move(schema), definition, Kind::kDefinition));
 }
 
 const ClassObject* ClassObject::Behind(IWbemClassObject* object) {
@@ -223,7 +223,7 @@ HRESULT ClassObject::Next(LONG flags, BSTR* name, VARIANT* value, CIMTYPE* type,
   if (next_ == enumeration_.size()) return WBEM_S_NO_MORE_DATA;
   const WideText wide = ToWide(enumeration_[next_++]);
   const HRESULT result = Get(wide.c_str(), 0, value, type, flavor);
-  if (SUCCEEDED(result) && name) *name = MakeBstr(WideView(wide)).release();
+  if (SUCCEEDED(result) && name) *name = Bstr(WideView(wide)).release();
   return result;
 }
 
@@ -234,13 +234,13 @@ HRESULT ClassObject::EndEnumeration() {
 
 HRESULT ClassObject::Clone(IWbemClassObject** copy) {
   if (!copy) return kInvalidParameter;
-  ComPtr<ClassObject> cloned(new ClassObject(schema_, definition_, kind_));
+  Com<ClassObject> cloned(new ClassObject(schema_, definition_, kind_));
   for (size_t i = 0; i < values_.size(); ++i) {
     if (FAILED(VariantCopy(&cloned->values_[i], &values_[i]))) return kOutOfMemory;
   }
   cloned->put_ = put_;
   cloned->put_order_ = put_order_;
-  *copy = cloned.release();
+  *copy = cloned.Detach();
   return WBEM_S_NO_ERROR;
 }
 

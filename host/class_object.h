@@ -53,7 +53,7 @@ class RefusingClassObject : public ComObject<IWbemClassObject, IID_IWbemClassObj
 class ClassObject final : public RefusingClassObject {
  public:
   /// The definition of a class of the schema.
-  static ComPtr<ClassObject> Definition(std::shared_ptr<const Schema> schema,
+  static Com<ClassObject> Definition(std::shared_ptr<const Schema> schema,
                                         const ClassDefinition& definition);
 
   /// The host's own object behind an interface; null if another implementation stands there. The

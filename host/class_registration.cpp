@@ -39,7 +39,7 @@ Apartment::~Apartment() {
 }
 
 ClassRegistration::ClassRegistration(REFCLSID clsid, Maker maker) {
-  const ComPtr<Factory> factory(new Factory(std::move(maker)));
+  const Com<Factory> factory(new Factory(std::move(maker)));
   const HRESULT registered = CoRegisterClassObject(clsid, factory.get(), CLSCTX_INPROC_SERVER,
                                                    REGCLS_MULTIPLEUSE, &cookie_);
   if (FAILED(registered)) {

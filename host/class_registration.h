@@ -22,7 +22,7 @@ class Apartment {
 class ClassRegistration {
  public:
   /// Makes an object with one reference.
-  using Maker = std::function<ComPtr<IUnknown>()>;
+  using Maker = std::function<Com<IUnknown>()>;
 
   /// Throws HostError (kPlatform).
   ClassRegistration(REFCLSID clsid, Maker maker);

@@ -1,43 +1,17 @@
-/// Owners of COM references and automation values, and the base of the host's own COM objects.
+/// The base of the host's own COM objects.
 #pragma once
 
 #include <atomic>
-#include <memory>
+#include <string_view>
 
 #include "host/text.h"
-#include "platform/wmi.h"
+#include "platform/com.h"
 
 namespace tqcim::host {
 
-struct ComRelease {
-  void operator()(IUnknown* object) const { object->Release(); }
-};
-/// Owns one reference.
-template <typename T>
-using ComPtr = std::unique_ptr<T, ComRelease>;
-
-struct BstrFree {
-  void operator()(BSTR text) const { SysFreeString(text); }
-};
-using BstrPtr = std::unique_ptr<OLECHAR, BstrFree>;
-
-inline BstrPtr MakeBstr(WideView text) {
-  return BstrPtr(SysAllocStringLen(text.data(), static_cast<UINT>(text.size())));
+inline Bstr MakeBstr(std::string_view utf8) {
+  return Bstr(ToWide(utf8));
 }
-inline BstrPtr MakeBstr(std::string_view utf8) {
-  return MakeBstr(ToWide(utf8));
-}
-
-/// A VARIANT that frees what it owns.
-struct OwnedVariant : VARIANT {
-  OwnedVariant() { VariantInit(this); }
-  OwnedVariant(OwnedVariant&& other) noexcept : VARIANT(other) { VariantInit(&other); }
-  OwnedVariant& operator=(OwnedVariant&& other) noexcept {
-    std::swap(static_cast<VARIANT&>(*this), static_cast<VARIANT&>(other));
-    return *this;
-  }
-  ~OwnedVariant() { VariantClear(this); }
-};
 
 /// Counts the host's COM objects that are alive in the process.
 class LiveObject {

@@ -61,11 +61,11 @@ struct ManagementHost::Parts {
       : name_space(std::make_shared<Namespace>(std::move(schema))),
         locator(CLSID_WbemLocator, MakeLocator()),
         administrative_locator(CLSID_WbemAdministrativeLocator, MakeLocator()),
-        path_parser(CLSID_WbemDefPath, [] { return ComPtr<IUnknown>(new PathObject); }),
+        path_parser(CLSID_WbemDefPath, [] { return Com<IUnknown>(new PathObject); }),
         provider(module, registration, *name_space) {}
 
   ClassRegistration::Maker MakeLocator() const {
-    return [served = name_space] { return ComPtr<IUnknown>(new Locator(served)); };
+    return [served = name_space] { return Com<IUnknown>(new Locator(served)); };
   }
 
   /// The served class of that name. Throws HostError.
@@ -110,8 +110,8 @@ const Schema& ManagementHost::schema() const {
 Outcome ManagementHost::Enumerate(std::string_view class_name, const InstanceCallback& callback) {
   const ClassDefinition& definition = parts_->ServedClass(class_name);
   const Apartment apartment;
-  const BstrPtr name = MakeBstr(definition.name);
-  const ComPtr<ResultSink> sink(new ResultSink(callback));
+  const Bstr name = MakeBstr(definition.name);
+  const Com<ResultSink> sink(new ResultSink(callback));
   const HRESULT returned =
       parts_->provider.services().CreateInstanceEnumAsync(name.get(), 0, nullptr, sink.get());
   return Settle(returned, *sink);
@@ -121,7 +121,7 @@ Outcome ManagementHost::Get(std::string_view path, const InstanceCallback& callb
   ObjectPath parsed = ParsePath(path);
   parsed.class_name = parts_->ServedClass(parsed.class_name).name;
   const Apartment apartment;
-  const ComPtr<ResultSink> sink(new ResultSink(callback));
+  const Com<ResultSink> sink(new ResultSink(callback));
   // The provider frees the text of the path.
   const BSTR text = MakeBstr(RelativeText(parsed)).release();
   const HRESULT returned = parts_->provider.services().GetObjectAsync(text, 0, nullptr, sink.get());

@@ -43,7 +43,7 @@ HRESULT Namespace::GetObject(BSTR path, LONG flags, IWbemContext*, IWbemClassObj
   if (parsed.NamesInstance()) return kNotSupported;
   const ClassDefinition* definition = schema_->Find(parsed.class_name);
   if (!definition) return kNotFound;
-  *object = ClassObject::Definition(schema_, *definition).release();
+  *object = ClassObject::Definition(schema_, *definition).Detach();
   return S_OK;
 }
 

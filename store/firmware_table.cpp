@@ -1,6 +1,7 @@
 #include "store/firmware_table.h"
 
 #include <string>
+#include <utility>
 
 #include "store/files.h"
 #include "store/smbios_source.h"
@@ -22,7 +23,8 @@ smbios::Bytes BytesOf(const std::string& contents) {
 /// The snapshot of the table at the start of `available`, which begins at `offset` of `file`.
 std::unique_ptr<Snapshot> SnapshotOfTable(smbios::Bytes available,
                                           const smbios::EntryPoint& entryPoint,
-                                          const std::string& file, size_t offset) {
+                                          const std::string& file, size_t offset,
+                                          SnapshotBuilder builder) {
   if (available.size() > entryPoint.tableLength) {
     available = available.first(entryPoint.tableLength);
   } else if (entryPoint.lengthIsExact && available.size() < entryPoint.tableLength) {
@@ -31,10 +33,11 @@ std::unique_ptr<Snapshot> SnapshotOfTable(smbios::Bytes available,
                          std::to_string(entryPoint.tableLength) + " bytes, the file has " +
                          std::to_string(available.size()));
   }
-  return smbios::SnapshotOf(available, entryPoint, file, offset);
+  return smbios::SnapshotOf(available, entryPoint, file, offset, std::move(builder));
 }
 
-std::unique_ptr<Snapshot> LoadDump(smbios::Bytes contents, const std::string& file) {
+std::unique_ptr<Snapshot> LoadDump(smbios::Bytes contents, const std::string& file,
+                                   SnapshotBuilder builder) {
   const smbios::EntryPoint entryPoint = smbios::ReadEntryPoint(contents, file);
   if (entryPoint.tableAddress >= contents.size()) {
     throw StoreError(smbios::PlaceAt(file, 0), "the entry point gives the table an address, " +
@@ -42,10 +45,11 @@ std::unique_ptr<Snapshot> LoadDump(smbios::Bytes contents, const std::string& fi
                                                    ", past the end of the file");
   }
   const auto offset = static_cast<size_t>(entryPoint.tableAddress);
-  return SnapshotOfTable(contents.subspan(offset), entryPoint, file, offset);
+  return SnapshotOfTable(contents.subspan(offset), entryPoint, file, offset, std::move(builder));
 }
 
-std::unique_ptr<Snapshot> LoadBareTable(smbios::Bytes table, const fs::path& path) {
+std::unique_ptr<Snapshot> LoadBareTable(smbios::Bytes table, const fs::path& path,
+                                        SnapshotBuilder builder) {
   const fs::path entryPointPath = path.parent_path() / kEntryPointName;
   std::error_code error;
   if (!fs::exists(entryPointPath, error)) {
@@ -58,17 +62,18 @@ std::unique_ptr<Snapshot> LoadBareTable(smbios::Bytes table, const fs::path& pat
     throw StoreError(smbios::PlaceAt(entryPointFile, 0), "not an SMBIOS entry point");
   }
   return SnapshotOfTable(table, smbios::ReadEntryPoint(BytesOf(contents), entryPointFile),
-                         TextOf(path), 0);
+                         TextOf(path), 0, std::move(builder));
 }
 
 }  // namespace
 
-std::unique_ptr<Snapshot> LoadFirmwareTable(const fs::path& path) {
+std::unique_ptr<Snapshot> LoadFirmwareTable(const fs::path& path, SnapshotBuilder builder) {
   std::error_code error;
   const fs::path file = fs::is_directory(path, error) ? path / kTableName : path;
   const std::string contents = ReadFile(file);
   const smbios::Bytes bytes = BytesOf(contents);
-  return smbios::HasEntryPoint(bytes) ? LoadDump(bytes, TextOf(file)) : LoadBareTable(bytes, file);
+  return smbios::HasEntryPoint(bytes) ? LoadDump(bytes, TextOf(file), std::move(builder))
+                                      : LoadBareTable(bytes, file, std::move(builder));
 }
 
 }  // namespace tqcim::store

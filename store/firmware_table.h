@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "store/snapshot.h"
+#include "store/snapshot_builder.h"
 
 namespace tqcim::store {
 
@@ -14,10 +15,12 @@ namespace tqcim::store {
 /// - a bare table with the file of its entry point, `smbios_entry_point`, beside it,
 /// - a folder with those two, the table being called `DMI`.
 ///
-/// Throws StoreError "FILE: byte OFFSET: reason".
-std::unique_ptr<Snapshot> LoadFirmwareTable(const std::filesystem::path& path);
+/// The objects that the builder already has are part of the snapshot, too. Throws StoreError
+/// "FILE: byte OFFSET: reason".
+std::unique_ptr<Snapshot> LoadFirmwareTable(const std::filesystem::path& path,
+                                            SnapshotBuilder builder = {});
 
-/// The table of the running machine.
+/// The running machine: its table, and its network adapters, of which the table doesn't tell.
 std::unique_ptr<Snapshot> LoadFirmware();
 
 }  // namespace tqcim::store

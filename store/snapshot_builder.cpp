@@ -7,6 +7,7 @@
 
 #include "platform/layouts/event_log.h"
 #include "platform/layouts/header.h"
+#include "platform/layouts/probes.h"
 #include "platform/layouts/system.h"
 #include "store/store_error.h"
 #include "store/text.h"
@@ -29,7 +30,8 @@ std::string Number(uint64_t number) {
 }  // namespace
 
 uint32_t BodySize(const layout::ObjectLayout& layout) {
-  uint32_t size = layout::header::kSize;
+  const FieldInfo sensorName = layout::probe::kName;
+  uint32_t size = sensorName.offset + sensorName.width;
   for (const FieldInfo& field : layout.fields) size = std::max(size, field.offset + field.width);
   return size;
 }

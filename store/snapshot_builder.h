@@ -27,7 +27,9 @@ enum class Status : uint8_t {
   kNonRecoverable = 5,
 };
 
-/// The length of header and body of a type: up to the end of its last field.
+/// The length of header and body of a type: up to the end of its last field, and never shorter than
+/// what a sensor's name needs. Any object can be asked for as a discrete sensor, and then gives the
+/// text at that place: an empty one where its own type has nothing there.
 uint32_t BodySize(const layout::ObjectLayout& layout);
 
 /// One object that is being put together. Every setter throws StoreError, naming the object's

@@ -90,12 +90,14 @@ auto Store::WithObject(uint32_t oid, Take take) const {
   using Taken = decltype(take(std::declval<const StoredObject&>()));
   const ReadSection view(*this);
   if (view->current == nullptr) return Taken{};
-  if (const StoredObject* object = view->current->Find(oid)) return take(*object);
+  const StoredObject* object = view->current->Find(oid);
   for (const Snapshot* retired : view->retired) {
     if (!retired->IsHeld()) continue;
-    if (const StoredObject* object = retired->Find(oid)) return take(*object);
+    const StoredObject* former = retired->Find(oid);
+    if (object == nullptr) object = former;
+    if (former != nullptr && former->type != object->type) return Taken{};
   }
-  return Taken{};
+  return object != nullptr ? take(*object) : Taken{};
 }
 
 void* Store::CopyObject(uint32_t oid) const {

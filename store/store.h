@@ -18,8 +18,9 @@ namespace tqcim::store {
 ///
 /// An OID that stands in a list which a caller still holds stays readable after a refresh: what the
 /// snapshot in service doesn't know is looked for in the retired snapshots that are still held.
-/// What both know comes from the one in service, and may there be of another type. A retired
-/// snapshot goes with the first refresh after its last list was freed.
+/// What both know comes from the one in service. Where both know it as objects of different types
+/// it is absent until those lists are freed: a caller never gets an object of another type than the
+/// list told. A retired snapshot goes with the first refresh after its last list was freed.
 ///
 /// All blocks are freed with Free. A call that finds nothing, or no memory, returns null.
 class Store {

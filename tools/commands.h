@@ -11,6 +11,9 @@ namespace tqcim::tools {
 CommandResult Run(const ClassesCommand& command, const Layout& layout);
 CommandResult Run(const ListCommand& command, const Layout& layout);
 CommandResult Run(const GetCommand& command, const Layout& layout);
+/// Tells its failures itself.
+CommandResult Run(const HealthCommand& command, const Layout& layout);
+CommandResult Run(const ExportCommand& command);
 CommandResult Run(const ConvertCommand& command);
 CommandResult Run(const CheckCommand& command);
 

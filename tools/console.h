@@ -13,8 +13,8 @@ namespace tqcim::tools {
 /// command line, since the narrow ones lose what the code page lacks.
 std::vector<std::string> Arguments(int count, char** values);
 
-/// Tells the provider module that its libraries need no search: they stand beside the program. To be
-/// called before the module is loaded.
+/// Tells the provider module that its libraries need no search: they stand beside the program. To
+/// be called before the module is loaded.
 void UseOwnLibraries();
 
 /// The width in columns of the terminal on standard output; nothing where that isn't a terminal.

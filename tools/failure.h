@@ -6,7 +6,7 @@
 
 namespace tqcim::tools {
 
-/// The exit statuses, as --help and the README list them.
+/// The exit statuses of all commands but `health`, as --help and the README list them.
 enum class ExitStatus {
   kFine = 0,
   kNotFound = 1,        ///< there is no such class or instance
@@ -33,7 +33,10 @@ struct CommandResult {
   std::string output;
   /// One sentence for standard error, or empty.
   std::string remark = {};
-  ExitStatus status = ExitStatus::kFine;
+  /// The exit status.
+  int status = static_cast<int>(ExitStatus::kFine);
+  /// The exit status where the output can't be written.
+  int status_when_unwritten = static_cast<int>(ExitStatus::kOutputFailed);
 };
 
 }  // namespace tqcim::tools

@@ -1,42 +1,43 @@
-#include <nlohmann/json.hpp>
-
 #include "tools/formats.h"
+#include "tools/json.h"
 
 namespace tqcim::tools {
 namespace {
 
-using Json = nlohmann::ordered_json;
-
-Json ToJson(const host::Scalar& scalar) {
+Json ScalarJson(const host::Scalar& scalar) {
   return std::visit([](const auto& held) { return Json(held); }, scalar);
 }
 
-Json ToJson(const host::Value& value) {
-  if (const auto* array = std::get_if<host::Array>(&value)) {
-    Json elements = Json::array();
-    for (const host::Scalar& element : *array) elements.push_back(ToJson(element));
-    return elements;
-  }
-  const std::optional<host::Scalar> scalar = host::ToScalar(value);
-  return scalar ? ToJson(*scalar) : Json();
-}
-
-std::string Text(const Json& document) {
-  return document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
-}
-
-}  // namespace
-
-std::string JsonText(const std::vector<host::Instance>& instances) {
-  Json document = Json::array();
+Json InstancesJson(const std::vector<host::Instance>& instances) {
+  Json array = Json::array();
   for (const host::Instance& instance : instances) {
     Json object = Json::object();
     for (const host::Property& property : instance.properties) {
       object.emplace(property.name, ToJson(property.value));
     }
-    document.push_back(std::move(object));
+    array.push_back(std::move(object));
   }
-  return Text(document);
+  return array;
+}
+
+}  // namespace
+
+Json ToJson(const host::Value& value) {
+  if (const auto* array = std::get_if<host::Array>(&value)) {
+    Json elements = Json::array();
+    for (const host::Scalar& element : *array) elements.push_back(ScalarJson(element));
+    return elements;
+  }
+  const std::optional<host::Scalar> scalar = host::ToScalar(value);
+  return scalar ? ScalarJson(*scalar) : Json();
+}
+
+std::string DocumentText(const Json& document) {
+  return document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+std::string JsonText(const std::vector<host::Instance>& instances) {
+  return DocumentText(InstancesJson(instances));
 }
 
 std::string JsonText(const std::vector<ClassSummary>& classes) {
@@ -46,7 +47,15 @@ std::string JsonText(const std::vector<ClassSummary>& classes) {
                         {"instances", summary.instances},
                         {"status", summary.status ? Json(*summary.status) : Json()}});
   }
-  return Text(document);
+  return DocumentText(document);
+}
+
+std::string JsonText(const std::vector<ClassInstances>& classes) {
+  Json document = Json::object();
+  for (const ClassInstances& one : classes) {
+    document.emplace(one.name, one.instances ? InstancesJson(*one.instances) : Json());
+  }
+  return DocumentText(document);
 }
 
 }  // namespace tqcim::tools

@@ -34,6 +34,9 @@ Layout OutputLayout() {
 CommandResult Run(const ShowText& text, const Layout&) {
   return {.output = text.text};
 }
+CommandResult Run(const ExportCommand& command, const Layout&) {
+  return Run(command);
+}
 CommandResult Run(const ConvertCommand& command, const Layout&) {
   return Run(command);
 }
@@ -45,11 +48,16 @@ void Tell(const std::string& sentence) {
   WriteError("tqcim: " + Printable(sentence) + "\n");
 }
 
-ExitStatus RunProgram(const std::vector<std::string>& arguments) {
+int RunProgram(const std::vector<std::string>& arguments) {
   const CommandResult result = std::visit(
       [](const auto& command) { return Run(command, OutputLayout()); }, ReadCommandLine(arguments));
   if (!result.remark.empty()) Tell(result.remark);
-  WriteOutput(result.output);
+  try {
+    WriteOutput(result.output);
+  } catch (const Failure& failure) {
+    Tell(failure.what());
+    return result.status_when_unwritten;
+  }
   return result.status;
 }
 
@@ -60,7 +68,7 @@ int main(int count, char** values) {
   using namespace tqcim::tools;
   ExitStatus status = ExitStatus::kProviderFailed;
   try {
-    status = RunProgram(Arguments(count, values));
+    return RunProgram(Arguments(count, values));
   } catch (const Failure& failure) {
     Tell(failure.what());
     status = failure.status();

@@ -16,7 +16,7 @@ constexpr const char* kProgramFooter =
 the file tqcim.json beside the program, else the embedded sample answers: an
 invented server, and every output says so.
 
-Exit status:
+Exit status (tqcim health has its own):
   0  fine
   1  there is no such class or instance
   2  the command line or an object path on it is not valid
@@ -25,6 +25,7 @@ Exit status:
   5  the output can't be written
 
 Examples:
+  tqcim health
   tqcim classes
   tqcim list CIM_PhysicalMemory --firmware
   tqcim get 'CIM_Processor.DeviceID="0"'
@@ -56,6 +57,42 @@ in front. Quote it for the shell.
 Examples:
   tqcim get 'CIM_Processor.DeviceID="0"'
   tqcim get 'VORN_Chassis.Tag="mainsystemchassis"' --format json)";
+
+constexpr const char* kHealthFooter =
+    R"(What is wrong, the worst first, with readings, thresholds and the newest log
+records that name it; then the newest log records of other faults. Every class
+with a status counts but the logs, each part once. A redundancy group that isn't
+fully redundant is degraded; the states Unknown and Other are no faults.
+Readings are numbers as the system reports them; a threshold of 0 is none.
+
+Exit status, as monitoring systems take it from their check plugins:
+  0  OK
+  1  WARNING: something is degraded (Stressed)
+  2  CRITICAL: something has failed (Error, NonRecover)
+  3  UNKNOWN: it could not be told, whatever the reason; the reason is in the
+     first line of the output, with --format json on standard error
+
+JSON is one object: "verdict", "status" (of the system), "source", "checked",
+"ok", "untold", "logRecords" (numbers), "findings" (each with "class", "path",
+"name", "verdict", "property", "status", "reading", "unit", "thresholds",
+"error", "records") and "records" (each with "class", "path", "time", "status",
+"text"). What there isn't is null.
+
+Examples:
+  tqcim health
+  tqcim health --store server.json
+  tqcim health --firmware --format json)";
+
+constexpr const char* kExportFooter =
+    R"(One JSON object: under each class's name the array that tqcim list --format json
+shows, empty for a class without instances, null for one that the provider
+failed to give (told on standard error, exit status 4). With -o the file is
+written as a whole or not at all.
+
+Examples:
+  tqcim export --firmware -o inventory.json
+  tqcim export --store server.json
+  tqcim export --store server.json | jq '.CIM_PhysicalMemory[].SerialNumber')";
 
 constexpr const char* kStoreFooter = R"(A store file is a whole machine as JSON: what --store reads.
 
@@ -101,20 +138,26 @@ void AddSourceOptions(CLI::App& command, SourceOption& source) {
   for (CLI::Option* table : AddTableOptions(command, source)) store->excludes(table);
 }
 
-void AddFormatOption(CLI::App& command, Format& format) {
-  static const std::map<std::string, Format> kFormats = {
-      {"table", Format::kTable}, {"json", Format::kJson}, {"csv", Format::kCsv}};
-  const auto take = [&format](const std::string& name) { format = kFormats.at(name); };
-  command.add_option_function<std::string>("--format", take, "table (default), json or csv")
+void AddFormatOption(CLI::App& command, Format& format, bool with_csv = true) {
+  std::map<std::string, Format> formats = {{"table", Format::kTable}, {"json", Format::kJson}};
+  if (with_csv) formats["csv"] = Format::kCsv;
+  const char* description = with_csv ? "table (default), json or csv" : "table (default) or json";
+  const char* names = with_csv ? ", only table, json and csv" : ", only table and json";
+  const auto take = [&format, formats](const std::string& name) { format = formats.at(name); };
+  command.add_option_function<std::string>("--format", take, description)
       ->type_name("FORMAT")
       ->option_text("FORMAT")
       ->check(CLI::Validator(
-          [](std::string& name) {
-            return kFormats.contains(name)
-                       ? ""
-                       : "there is no format " + name + ", only table, json and csv";
+          [formats, names](std::string& name) {
+            return formats.contains(name) ? "" : "there is no format " + name + names;
           },
           ""));
+}
+
+CLI::Option* AddOutputOption(CLI::App& command, std::string& output, const char* description) {
+  return command.add_option("-o,--output", output, description)
+      ->type_name("FILE")
+      ->option_text("FILE");
 }
 
 CLI::App* Add(CLI::App& parent, const char* name, const char* description, const char* footer) {
@@ -152,6 +195,10 @@ class CommandLine {
     } catch (const CLI::CallForVersion& version) {
       return ShowText{std::string(version.what()) + "\n"};
     } catch (const CLI::ParseError& error) {
+      if (app_.got_subcommand("health")) {
+        health_.mistake = Sentence(error);
+        return health_;
+      }
       throw Failure(ExitStatus::kUsage, Sentence(error));
     }
   }
@@ -183,6 +230,16 @@ class CommandLine {
     AddSourceOptions(*get, get_.source);
     AddFormatOption(*get, get_.format);
     Choose(*get, get_);
+
+    CLI::App* health = Add(app_, "health", "What is wrong with the system", kHealthFooter);
+    AddSourceOptions(*health, health_.source);
+    AddFormatOption(*health, health_.format, false);
+    Choose(*health, health_);
+
+    CLI::App* everything = Add(app_, "export", "All instances of all classes", kExportFooter);
+    AddSourceOptions(*everything, export_.source);
+    AddOutputOption(*everything, export_.output, "the file to write, not standard output");
+    Choose(*everything, export_);
   }
 
   void AddStoreCommands() {
@@ -192,10 +249,7 @@ class CommandLine {
     CLI::App* convert =
         Add(*store, "convert", "Write a firmware table as a store file", kConvertFooter);
     AddTableOptions(*convert, convert_.source);
-    convert->add_option("-o,--output", convert_.output, "the store file to write")
-        ->type_name("FILE")
-        ->option_text("FILE")
-        ->required();
+    AddOutputOption(*convert, convert_.output, "the store file to write")->required();
     Choose(*convert, convert_);
 
     CLI::App* check = Add(*store, "check", "Check a store file", kCheckFooter);
@@ -221,6 +275,8 @@ class CommandLine {
   ClassesCommand classes_;
   ListCommand list_;
   GetCommand get_;
+  HealthCommand health_;
+  ExportCommand export_;
   ConvertCommand convert_;
   CheckCommand check_;
   std::optional<Command> chosen_;

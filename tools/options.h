@@ -36,6 +36,17 @@ struct GetCommand {
   SourceOption source;
   Format format = Format::kTable;
 };
+struct HealthCommand {
+  SourceOption source;
+  Format format = Format::kTable;
+  /// What is wrong with the command line, for this command to tell; empty for nothing.
+  std::string mistake = {};
+};
+struct ExportCommand {
+  SourceOption source;
+  /// The file to write; empty for standard output.
+  std::string output;
+};
 struct ConvertCommand {
   /// One of the two firmware tables.
   SourceOption source;
@@ -45,10 +56,11 @@ struct CheckCommand {
   std::string file;
 };
 
-using Command =
-    std::variant<ShowText, ClassesCommand, ListCommand, GetCommand, ConvertCommand, CheckCommand>;
+using Command = std::variant<ShowText, ClassesCommand, ListCommand, GetCommand, HealthCommand,
+                             ExportCommand, ConvertCommand, CheckCommand>;
 
-/// Reads the command line; --help and --version become texts to show. Throws Failure (kUsage).
+/// Reads the command line; --help and --version become texts to show, a mistake in that of `health`
+/// its own to tell. Throws Failure (kUsage).
 Command ReadCommandLine(std::span<const std::string> arguments);
 
 }  // namespace tqcim::tools

@@ -1,40 +1,19 @@
 #include <algorithm>
 #include <memory>
 
-#include "host/management_host.h"
 #include "host/object_path.h"
-#include "host/results.h"
 #include "tools/commands.h"
-#include "tools/console.h"
 #include "tools/formats.h"
 #include "tools/nearest_names.h"
+#include "tools/provider.h"
 #include "tools/source.h"
+#include "tools/status.h"
 
 namespace tqcim::tools {
 namespace {
 
 using host::HostError;
 using host::ManagementHost;
-
-ExitStatus StatusOf(HostError::Kind kind) {
-  switch (kind) {
-    case HostError::Kind::kUnknownClass:
-      return ExitStatus::kNotFound;
-    case HostError::Kind::kBadPath:
-      return ExitStatus::kUsage;
-    default:
-      return ExitStatus::kProviderFailed;
-  }
-}
-
-std::unique_ptr<ManagementHost> OpenHost() {
-  UseOwnLibraries();
-  try {
-    return ManagementHost::Open();
-  } catch (const HostError& error) {
-    throw Failure(StatusOf(error.kind()), error.what());
-  }
-}
 
 std::string Suggestion(const std::vector<std::string>& nearest) {
   if (nearest.empty()) return "tqcim classes shows them all";
@@ -56,24 +35,6 @@ const host::ClassDefinition& FindClass(const ManagementHost& host, const std::st
                                              Suggestion(NearestNames(name, served)));
   }
   return *definition;
-}
-
-struct Answer {
-  std::vector<host::Instance> instances;
-  host::Outcome outcome;
-  /// "Not found" is an answer, too: there is nothing.
-  bool ok() const { return outcome.ok() || outcome.result == host::kNotFound; }
-  std::string FailureText(const std::string& class_name) const {
-    return class_name + ": the provider answered " + outcome.Text();
-  }
-};
-
-Answer Enumerate(ManagementHost& host, const std::string& class_name) {
-  Answer answer;
-  answer.outcome = host.Enumerate(class_name, [&](host::Instance instance) {
-    answer.instances.push_back(std::move(instance));
-  });
-  return answer;
 }
 
 /// The class of a path that parses. Throws Failure unless the path names an instance of a served
@@ -104,32 +65,25 @@ Answer Get(ManagementHost& host, const std::string& path) {
 }
 
 std::vector<host::Instance> TakeInstances(Answer answer, const std::string& class_name) {
-  if (!answer.ok()) throw Failure(ExitStatus::kProviderFailed, answer.FailureText(class_name));
+  if (!Answered(answer.outcome)) {
+    throw Failure(ExitStatus::kProviderFailed, FailureText(class_name, answer.outcome));
+  }
   return std::move(answer.instances);
 }
 
-/// The worse a status, the later it stands; a text that isn't here counts as worse than all.
-constexpr std::string_view kStatusOrder[] = {"Other",    "Unknown", "OK",
-                                             "Stressed", "Error",   "NonRecover"};
-
 std::optional<std::string> WorstStatus(const std::vector<host::Instance>& instances) {
-  const auto severity = [](const std::string& status) {
-    return std::find(std::begin(kStatusOrder), std::end(kStatusOrder), status);
-  };
   std::optional<std::string> worst;
   for (const host::Instance& instance : instances) {
     const host::Property* property = instance.Find("Status");
     const auto* status = property ? std::get_if<std::string>(&property->value) : nullptr;
-    if (status && (!worst || severity(*worst) < severity(*status))) worst = *status;
+    if (status && (!worst || StatusRank(*worst) < StatusRank(*status))) worst = *status;
   }
   return worst;
 }
 
-/// Tables name their source themselves; whoever keeps the other formats in a file is told once.
+/// Tables name their source themselves.
 std::string Remark(const Source& source, Format format) {
-  if (!source.sample || format == Format::kTable) return {};
-  return "this is " + source.description +
-         "; --store, --firmware-table and --firmware choose another source";
+  return format == Format::kTable ? std::string() : SampleRemark(source);
 }
 
 std::string Text(const Listing& listing, Format format, const Layout& layout) {
@@ -164,12 +118,12 @@ CommandResult Run(const ClassesCommand& command, const Layout& layout) {
   std::vector<ClassSummary> summaries;
   for (const std::string& name : host->ClassNames()) {
     const Answer answer = Enumerate(*host, name);
-    if (answer.ok()) {
+    if (Answered(answer.outcome)) {
       summaries.push_back({name, answer.instances.size(), WorstStatus(answer.instances)});
     } else {
       // The other classes are shown all the same.
-      result.remark = answer.FailureText(name);
-      result.status = ExitStatus::kProviderFailed;
+      result.remark = FailureText(name, answer.outcome);
+      result.status = static_cast<int>(ExitStatus::kProviderFailed);
     }
   }
   result.output = Text(summaries, command.format, source, layout);

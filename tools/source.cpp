@@ -66,4 +66,10 @@ Source OpenSource(const SourceOption& option) {
   return {.description = Description(source), .sample = source == kSample};
 }
 
+std::string SampleRemark(const Source& source) {
+  if (!source.sample) return {};
+  return "this is " + source.description +
+         "; --store, --firmware-table and --firmware choose another source";
+}
+
 }  // namespace tqcim::tools

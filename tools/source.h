@@ -18,4 +18,8 @@ struct Source {
 /// Throws Failure (kBadInput).
 Source OpenSource(const SourceOption& option);
 
+/// What whoever keeps an output that doesn't name its source is told once, on standard error; empty
+/// unless the data are invented.
+std::string SampleRemark(const Source& source);
+
 }  // namespace tqcim::tools

@@ -3,23 +3,13 @@
 
 #include "store/files.h"
 #include "store/firmware_table.h"
-#include "store/store_error.h"
 #include "store/store_file.h"
 #include "tools/commands.h"
+#include "tools/store_failure.h"
 #include "tools/text.h"
 
 namespace tqcim::tools {
 namespace {
-
-/// What `function` returns; bad input or a failed write becomes a Failure.
-template <typename Function>
-auto FailingWith(ExitStatus status, Function function) {
-  try {
-    return function();
-  } catch (const store::StoreError& error) {
-    throw Failure(status, error.what());
-  }
-}
 
 std::string Summary(const std::string& file, const store::Snapshot& snapshot) {
   const size_t count = snapshot.Objects().size();

@@ -9,7 +9,6 @@
 namespace tqcim::tools {
 namespace {
 
-constexpr size_t kGap = 2;
 /// A column is at least this wide where its cells are longer.
 constexpr size_t kNarrowest = 4;
 /// A column is cut to this width before another one is left out.
@@ -31,7 +30,7 @@ struct Column {
 
 size_t TotalWidth(const std::vector<Column>& columns) {
   size_t total = 0;
-  for (const Column& column : columns) total += column.width + (total > 0 ? kGap : 0);
+  for (const Column& column : columns) total += column.width + (total > 0 ? kColumnGap : 0);
   return total;
 }
 
@@ -89,7 +88,7 @@ FittedTable FitTable(const Table& table, size_t mandatory, const Layout& layout)
   const auto line = [&](const std::vector<std::string>& cells, bool with_colour) {
     std::string text;
     for (const Column& column : columns) {
-      if (!text.empty()) text.append(kGap, ' ');
+      if (!text.empty()) text.append(kColumnGap, ' ');
       const std::string cell = Padded(cells[column.position], column);
       const bool coloured = with_colour && table.headings[column.position] == "Status";
       text += coloured ? Coloured(cell, cells[column.position]) : cell;

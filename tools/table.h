@@ -7,6 +7,9 @@
 
 namespace tqcim::tools {
 
+/// The blanks between two columns.
+inline constexpr size_t kColumnGap = 2;
+
 /// How the output is laid out.
 struct Layout {
   size_t width = 80;

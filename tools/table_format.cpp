@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "tools/formats.h"
+#include "tools/reference.h"
 #include "tools/text.h"
 
 namespace tqcim::tools {
@@ -16,6 +17,14 @@ constexpr std::string_view kStatus = "Status";
 
 const host::Value& ValueOf(const host::Instance& instance, size_t position) {
   return instance.properties[position].value;
+}
+
+/// References without what every one of a class has in common; JSON and CSV have them whole.
+std::string CellText(const host::Value& value, const host::PropertyDefinition& property,
+                     std::string (*text_of)(const host::Value&, const host::PropertyDefinition&)) {
+  const auto* path = std::get_if<std::string>(&value);
+  const bool reference = property.type == host::CimType::kReference && path != nullptr;
+  return reference ? ReadableReference(*path) : text_of(value, property);
 }
 
 bool Differs(const Listing& listing, size_t position) {
@@ -76,7 +85,7 @@ Table MakeTable(const Listing& listing, const Positions& positions) {
   for (const host::Instance& instance : listing.instances) {
     std::vector<std::string>& row = table.rows.emplace_back();
     for (const size_t position : positions) {
-      row.push_back(ReadableText(instance.properties[position].value, properties[position]));
+      row.push_back(CellText(ValueOf(instance, position), properties[position], ReadableText));
     }
   }
   return table;
@@ -105,9 +114,8 @@ std::string PropertyLines(const host::Instance& instance, const Positions& posit
   for (const size_t i : positions) {
     const host::PropertyDefinition& property = definition.properties[i];
     if (host::IsNull(ValueOf(instance, i))) continue;
-    std::string value = ReadableTextWithUnits(ValueOf(instance, i), property);
-    // References stay whole: they are there to be copied.
-    if (property.type != host::CimType::kReference) value = Wrapped(value, indent, layout.width);
+    std::string value = Wrapped(CellText(ValueOf(instance, i), property, ReadableTextWithUnits),
+                                indent, layout.width);
     if (layout.colour && property.name == kStatus) value = Coloured(value, value);
     std::string line = "  " + property.name;
     if (!value.empty()) line.append(indent - line.size(), ' ');
@@ -116,15 +124,20 @@ std::string PropertyLines(const host::Instance& instance, const Positions& posit
   return text;
 }
 
-/// Whether references are too long for columns: cut, they would all look the same.
+/// Whether references are too long for columns: cut, they might all look the same.
 bool HasCutReferences(const Listing& listing, const Layout& layout) {
-  for (size_t i = 0; i < listing.definition->properties.size(); ++i) {
-    if (listing.definition->properties[i].type != host::CimType::kReference) continue;
+  const auto& properties = listing.definition->properties;
+  size_t total = 0;
+  for (size_t i = 0; i < properties.size(); ++i) {
+    if (properties[i].type != host::CimType::kReference) continue;
+    size_t width = 0;
     for (const host::Instance& instance : listing.instances) {
-      if (ColumnCount(PlainText(ValueOf(instance, i))) > layout.width) return true;
+      const std::string cell = CellText(ValueOf(instance, i), properties[i], ReadableText);
+      width = std::max(width, ColumnCount(cell));
     }
+    total += width + (total > 0 ? kColumnGap : 0);
   }
-  return false;
+  return total > layout.width;
 }
 
 std::string JoinedNames(const std::vector<std::string>& names) {

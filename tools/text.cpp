@@ -119,6 +119,12 @@ std::string ReadableTextWithUnits(const host::Value& value,
   return Readable(value, property, true);
 }
 
+std::string MeaningText(const host::Value& value, const host::PropertyDefinition& property) {
+  const std::string code = PlainText(value);
+  const std::string meaning = ListedMeaning(code, property);
+  return meaning.empty() ? code : meaning;
+}
+
 std::string Printable(std::string_view text) {
   constexpr const char* kHex = "0123456789ABCDEF";
   const std::string valid = host::ToUtf8(host::ToWide(text));

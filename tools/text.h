@@ -22,6 +22,9 @@ std::string ReadableText(const host::Value& value, const host::PropertyDefinitio
 std::string ReadableTextWithUnits(const host::Value& value,
                                   const host::PropertyDefinition& property);
 
+/// What a code means ("DDR4"), or the plain text of a value for which the class has no meaning.
+std::string MeaningText(const host::Value& value, const host::PropertyDefinition& property);
+
 /// The text on one line without anything that a terminal obeys: control characters become \xNN,
 /// malformed UTF-8 becomes U+FFFD.
 std::string Printable(std::string_view text);

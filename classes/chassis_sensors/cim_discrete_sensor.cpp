@@ -8,6 +8,7 @@
 #include "core/path_keys.h"
 #include "core/property_names.h"
 #include "core/text.h"
+#include "platform/layouts/power_consumption.h"
 #include "platform/layouts/probes.h"
 
 namespace tqcim {
@@ -89,6 +90,13 @@ Reading ReadingOf(const DataObject& object) {
   }
 }
 
+/// The text where sensors have their name, whatever the object is; power consumption has a number
+/// there.
+Variant NameOf(const DataObject& object) {
+  const bool isNumber = object.Type() == layout::power_consumption::kType;
+  return Variant::Text(isNumber ? nullptr : object[probe::kName]);
+}
+
 /// Every state that can be read is acceptable too.
 void PutDiscreteSensorProperties(Instance& instance, const DataObject& object) {
   const Reading reading = ReadingOf(object);
@@ -100,7 +108,7 @@ void PutDiscreteSensorProperties(Instance& instance, const DataObject& object) {
   instance.Put(property::kCurrentReading, Variant::Text(reading.current));
   instance.Put(OLESTR("PossibleValues"), Variant::TextArray(reading.possible));
   instance.Put(OLESTR("AcceptableValues"), Variant::TextArray(reading.possible));
-  instance.Put(property::kName, Variant::Text(object[probe::kName]));
+  instance.Put(property::kName, NameOf(object));
   instance.Put(property::kStatus, Variant::Text(StatusToText(object.Status())));
   PutDeviceNames(instance, OLESTR("CIM_DiscreteSensor"));
   instance.Put(property::kDeviceId, Variant::Text(deviceId));

@@ -27,8 +27,10 @@ constexpr const char* kAddedToPath = "SKLIBPATH_ADDED_TO_PATH";
 constexpr const char* kPath = "PATH";
 constexpr int kMissingLibrary = 126;
 
+/// Room for a text whose size counts its terminator or, in the registry, may not: another one
+/// stands behind it. Null where there is no memory.
 Text Allocate(size_t size) {
-  return Text(new (std::nothrow) char[size]);
+  return Text(new (std::nothrow) char[size + 1]());
 }
 
 template <typename... Arguments>
@@ -65,7 +67,7 @@ Text NTDelayLoadGetEnv(const char* name, size_t* size) {
   return value;
 }
 
-/// A registry value as it stands, with a terminator of its own behind it.
+/// A registry value as it stands.
 struct RegistryValue {
   Text text;
   DWORD size = 0;
@@ -97,7 +99,7 @@ RegistryValue QueryLibraryPath(HKEY key) {
     Report("NTDelayLoadGetSharedPath: failed RegQueryValueEx: %s\n", kLibraryPath);
     return {};
   }
-  value.text = Allocate(value.size + 1);
+  value.text = Allocate(value.size);
   if (!value.text) {
     Report("NTDelayLoadGetSharedPath: failed to allocate pSKLIBPATH\n");
     return {};
@@ -107,7 +109,6 @@ RegistryValue QueryLibraryPath(HKEY key) {
     Report("NTDelayLoadGetSharedPath: failed RegQueryValueEx: %s\n", kLibraryPath);
     return {};
   }
-  value.text[value.size] = '\0';
   return value;
 }
 
@@ -120,25 +121,28 @@ Text NTDelayLoadGetSharedPath(size_t* size) {
   }
   RegistryValue value = QueryLibraryPath(key.get());
   if (!value.text) return nullptr;
-  if (value.type != REG_EXPAND_SZ) {
-    *size = value.size;
-    return std::move(value.text);
-  }
-  const DWORD expandedSize = ExpandEnvironmentStringsA(value.text.get(), nullptr, 0);
-  Text expanded = Allocate(expandedSize + 1);
-  if (!expanded) {
+  const bool expands = value.type == REG_EXPAND_SZ;
+  const DWORD sharedSize =
+      expands ? ExpandEnvironmentStringsA(value.text.get(), nullptr, 0) : value.size;
+  Text shared = Allocate(sharedSize);
+  if (!shared) {
     Report("NTDelayLoadGetSharedPath: failed to allocate pSharedPath\n");
     return nullptr;
   }
-  *size = ExpandEnvironmentStringsA(value.text.get(), expanded.get(), expandedSize);
-  return expanded;
+  if (expands) {
+    *size = ExpandEnvironmentStringsA(value.text.get(), shared.get(), sharedSize);
+  } else {
+    std::memcpy(shared.get(), value.text.get(), value.size);
+    *size = value.size;
+  }
+  return shared;
 }
 
 /// Puts a directory in front of PATH and notes it for child processes. False where that can't be
 /// done.
 bool PutInFrontOfPath(const Text& directory, size_t directorySize) {
   Text oldPath = NTDelayLoadGetEnv(kPath, nullptr);
-  if (!oldPath) oldPath = Text(new (std::nothrow) char[1]());
+  if (!oldPath) oldPath = Allocate(1);
   if (!oldPath) {
     Report("NTDelayLoadPutEnvSharedPath: failed to duplicate empty path\n");
     return false;

@@ -5,8 +5,8 @@
 #include <cstring>
 #include <string>
 
-#include "core/com.h"
 #include "core/module.h"
+#include "platform/com.h"
 
 namespace tqcim {
 namespace {

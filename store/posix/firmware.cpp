@@ -2,8 +2,10 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <utility>
 
 #include "store/firmware_table.h"
+#include "store/network_adapters.h"
 #include "store/store_error.h"
 
 namespace tqcim::store {
@@ -17,7 +19,9 @@ std::unique_ptr<Snapshot> LoadFirmware() {
                                          ? "only root may read this machine's firmware table"
                                          : "this machine shows no firmware table");
   }
-  return LoadFirmwareTable(folder);
+  SnapshotBuilder builder;
+  AddNetworkAdapters(ReadNetworkAdapters(), builder);
+  return LoadFirmwareTable(folder, std::move(builder));
 }
 
 }  // namespace tqcim::store

@@ -1,6 +1,7 @@
 #include "store/process.h"
 
 #include <dlfcn.h>
+#include <link.h>
 
 #include <cstdlib>
 
@@ -8,8 +9,16 @@ namespace tqcim::store {
 
 std::filesystem::path LibraryFolder() {
   Dl_info info{};
-  if (dladdr(reinterpret_cast<const void*>(&LibraryFolder), &info) == 0) return {};
-  return std::filesystem::absolute(info.dli_fname).parent_path();
+  link_map* map = nullptr;
+  if (dladdr1(reinterpret_cast<const void*>(&LibraryFolder), &info, reinterpret_cast<void**>(&map),
+              RTLD_DL_LINKMAP) == 0) {
+    return {};
+  }
+  // The program itself has no name there, and the one under which it was started need not be a path.
+  const bool isProgram = *map->l_name == '\0';
+  std::error_code unreadable;
+  return std::filesystem::canonical(isProgram ? "/proc/self/exe" : map->l_name, unreadable)
+      .parent_path();
 }
 
 std::optional<std::string> EnvironmentText(const char* name) {

@@ -1,9 +1,11 @@
 #include <windows.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "store/firmware_table.h"
+#include "store/network_adapters.h"
 #include "store/smbios_source.h"
 #include "store/store_error.h"
 
@@ -27,7 +29,9 @@ std::unique_ptr<Snapshot> LoadFirmware() {
   if (length < table.size()) table = table.first(length);
   smbios::EntryPoint entryPoint;
   entryPoint.tableLength = length;
-  return smbios::SnapshotOf(table, entryPoint, place, kPreambleSize);
+  SnapshotBuilder builder;
+  AddNetworkAdapters(ReadNetworkAdapters(), builder);
+  return smbios::SnapshotOf(table, entryPoint, place, kPreambleSize, std::move(builder));
 }
 
 }  // namespace tqcim::store

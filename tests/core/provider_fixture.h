@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/com.h"
+#include "platform/com.h"
 #include "core/module.h"
 #include "tests/support/fake_path_parser.h"
 #include "tests/support/fake_services.h"

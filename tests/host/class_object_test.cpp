@@ -23,7 +23,7 @@ class ClassObjectTest : public HostObjectsTest {
     for (LONG i = 0; i <= upper; ++i) {
       BSTR name = nullptr;
       EXPECT_EQ(S_OK, SafeArrayGetElement(names, &i, &name));
-      texts.push_back(ToUtf8(BstrPtr(name).get()));
+      texts.push_back(ToUtf8(Bstr::Adopt(name).get()));
     }
     return texts;
   }
@@ -49,7 +49,7 @@ class ClassObjectTest : public HostObjectsTest {
       class Thing : Base { [Key, Override("Name")] string Name; Base ref Owner; };
       [Singleton] class One { string Text; };
       class Two { [Key] string A; [Key] uint32 B; };)");
-  ComPtr<ClassObject> thing_ = ClassObject::Definition(schema_, *schema_->Find("Thing"));
+  Com<ClassObject> thing_ = ClassObject::Definition(schema_, *schema_->Find("Thing"));
 };
 
 TEST_F(ClassObjectTest, ADefinitionTellsItsSystemProperties) {
@@ -152,7 +152,7 @@ TEST_F(ClassObjectTest, EnumerationGivesEachPropertyOnce) {
       break;
     }
     ASSERT_EQ(S_OK, result);
-    seen.push_back(ToUtf8(BstrPtr(name).get()) + ":" + std::to_string(type) + ":" +
+    seen.push_back(ToUtf8(Bstr::Adopt(name).get()) + ":" + std::to_string(type) + ":" +
                    std::to_string(V_VT(&value)));
   }
   EXPECT_EQ((std::vector<std::string>{"Name:8:8", "Count:3:3", "Owner:102:1"}), seen);
@@ -166,7 +166,7 @@ TEST_F(ClassObjectTest, ACloneIsOnItsOwn) {
   PutText(*instance, OLESTR("Name"), OLESTR("first"));
   IWbemClassObject* copy = nullptr;
   ASSERT_EQ(S_OK, instance->Clone(&copy));
-  const ComPtr<IWbemClassObject> cloned(copy);
+  const Com<IWbemClassObject> cloned(copy);
   PutText(*instance, OLESTR("Name"), OLESTR("second"));
   EXPECT_EQ("first", TextOf(*cloned, OLESTR("Name")));
   EXPECT_EQ("second", TextOf(*instance, OLESTR("Name")));
@@ -175,9 +175,9 @@ TEST_F(ClassObjectTest, ACloneIsOnItsOwn) {
 TEST_F(ClassObjectTest, OriginsAreTheDeclaringClasses) {
   BSTR origin = nullptr;
   EXPECT_EQ(S_OK, thing_->GetPropertyOrigin(OLESTR("Name"), &origin));
-  EXPECT_EQ("Base", ToUtf8(BstrPtr(origin).get()));
+  EXPECT_EQ("Base", ToUtf8(Bstr::Adopt(origin).get()));
   EXPECT_EQ(S_OK, thing_->GetPropertyOrigin(OLESTR("Owner"), &origin));
-  EXPECT_EQ("Thing", ToUtf8(BstrPtr(origin).get()));
+  EXPECT_EQ("Thing", ToUtf8(Bstr::Adopt(origin).get()));
   EXPECT_EQ(kMissing, thing_->GetPropertyOrigin(OLESTR("Nothing"), &origin));
 }
 
@@ -224,7 +224,7 @@ TEST_F(ClassObjectTest, ReferencesAreCounted) {
 
 TEST_F(ClassObjectTest, AnInstanceKeepsItsSchema) {
   auto instance = Spawn(*thing_);
-  thing_.reset();
+  thing_.Release();
   schema_.reset();
   EXPECT_EQ("Thing", TextOf(*instance, OLESTR("__CLASS")));
 }

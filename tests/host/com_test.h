@@ -27,10 +27,10 @@ class HostObjectsTest : public ::testing::Test {
   }
 };
 
-inline ComPtr<IWbemClassObject> Spawn(IWbemClassObject& definition) {
+inline Com<IWbemClassObject> Spawn(IWbemClassObject& definition) {
   IWbemClassObject* instance = nullptr;
   EXPECT_EQ(S_OK, definition.SpawnInstance(0, &instance));
-  return ComPtr<IWbemClassObject>(instance);
+  return Com<IWbemClassObject>(instance);
 }
 
 /// VARIANTs as a provider makes them.
@@ -90,7 +90,7 @@ OwnedVariant ArrayOf(VARTYPE type, std::initializer_list<T> values) {
   LONG index = 0;
   for (T value : values) {
     if constexpr (std::is_pointer_v<T>) {
-      const BstrPtr text(SysAllocString(value));
+      const Bstr text(value);
       EXPECT_EQ(S_OK, SafeArrayPutElement(array, &index, text.get()));
     } else {
       EXPECT_EQ(S_OK, SafeArrayPutElement(array, &index, &value));

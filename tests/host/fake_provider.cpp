@@ -18,10 +18,10 @@ void Trace(const std::string& line) {
 }
 
 template <typename T>
-ComPtr<T> Create(REFCLSID clsid, REFIID iid) {
+Com<T> Create(REFCLSID clsid, REFIID iid) {
   void* object = nullptr;
   CoCreateInstance(clsid, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, iid, &object);
-  return ComPtr<T>(static_cast<T*>(object));
+  return Com<T>(static_cast<T*>(object));
 }
 
 void PutText(IWbemClassObject& instance, const OLECHAR* name, const std::string& text) {
@@ -35,7 +35,7 @@ void PutText(IWbemClassObject& instance, const OLECHAR* name, const std::string&
 HRESULT Deliver(IWbemClassObject& definition, IWbemObjectSink& sink, const std::string& name) {
   IWbemClassObject* instance = nullptr;
   definition.SpawnInstance(0, &instance);
-  const ComPtr<IWbemClassObject> owner(instance);
+  const Com<IWbemClassObject> owner(instance);
   PutText(*instance, OLESTR("Name"), name);
   return sink.Indicate(1, &instance);
 }
@@ -52,13 +52,13 @@ class Services final : public RefusingServices {
 
   /// Connects as a provider does that asks for IUnknown and takes it for the locator.
   void Connect() {
-    const ComPtr<IUnknown> unknown =
+    const Com<IUnknown> unknown =
         Create<IUnknown>(CLSID_WbemAdministrativeLocator, IID_IUnknown);
     auto* locator = static_cast<IWbemLocator*>(static_cast<void*>(unknown.get()));
-    const BstrPtr name(SysAllocString(OLESTR("root\\CIMV2\\vorn")));
+    const Bstr name(OLESTR("root\\CIMV2\\vorn"));
     IWbemServices* connection = nullptr;
     locator->ConnectServer(name.get(), nullptr, nullptr, nullptr, 0, nullptr, nullptr, &connection);
-    connection_.reset(connection);
+    connection_ = Com(connection);
     Trace(connection_ ? "connected" : "not connected");
   }
 
@@ -69,7 +69,7 @@ class Services final : public RefusingServices {
     if (class_name == "Fake_Silent") return S_OK;
     if (class_name == "Fake_KeepsSink") {
       sink->AddRef();
-      kept_.reset(sink);
+      kept_ = Com(sink);
     } else if (class_name == "Fake_RefusedPuts") {
       RefusedPuts(*definition, *sink);
     } else {
@@ -95,13 +95,13 @@ class Services final : public RefusingServices {
     path->GetClassName(&length, class_name);
     IWbemPathKeyList* keys = nullptr;
     path->GetKeyList(&keys);
-    const ComPtr<IWbemPathKeyList> owner(keys);
+    const Com<IWbemPathKeyList> owner(keys);
     OLECHAR key[64] = {};
     length = 64;
     ULONG type = 0;
     OwnedVariant value;
     keys->GetKey2(0, 0, &length, key, &value, &type);
-    const BstrPtr class_text(SysAllocString(class_name));
+    const Bstr class_text(class_name);
     const std::string held = V_VT(&value) == VT_BSTR ? ToUtf8(V_BSTR(&value)) : "";
     Deliver(*Definition(class_text.get()), *sink,
             ToUtf8(class_name) + "|" + ToUtf8(key) + "|" + std::to_string(type) + "|" + held);
@@ -113,22 +113,22 @@ class Services final : public RefusingServices {
   /// Delivers to the sink that was kept, when nobody waits any more.
   void DeliverLate() {
     if (!kept_) return;
-    const BstrPtr name(SysAllocString(OLESTR("Fake_KeepsSink")));
+    const Bstr name(OLESTR("Fake_KeepsSink"));
     Trace("late " + std::to_string(Deliver(*Definition(name.get()), *kept_, "late") < 0));
-    kept_.reset();
+    kept_.Release();
   }
 
  private:
-  ComPtr<IWbemClassObject> Definition(BSTR name) {
+  Com<IWbemClassObject> Definition(BSTR name) {
     IWbemClassObject* definition = nullptr;
     connection_->GetObject(name, 0, nullptr, &definition, nullptr);
-    return ComPtr<IWbemClassObject>(definition);
+    return Com<IWbemClassObject>(definition);
   }
 
   static void RefusedPuts(IWbemClassObject& definition, IWbemObjectSink& sink) {
     IWbemClassObject* instance = nullptr;
     definition.SpawnInstance(0, &instance);
-    const ComPtr<IWbemClassObject> owner(instance);
+    const Com<IWbemClassObject> owner(instance);
     PutText(*instance, OLESTR("Name"), "x");
     PutText(*instance, OLESTR("Missing"), "x");
     PutText(*instance, OLESTR("Number"), "x");
@@ -136,8 +136,8 @@ class Services final : public RefusingServices {
   }
 
   IUnknown& outer_;
-  ComPtr<IWbemServices> connection_;
-  ComPtr<IWbemObjectSink> kept_;
+  Com<IWbemServices> connection_;
+  Com<IWbemObjectSink> kept_;
 };
 
 class Provider final : public ComObject<IWbemProviderInit, IID_IWbemProviderInit> {
@@ -181,7 +181,7 @@ class Factory final : public ComObject<IClassFactory, IID_IClassFactory> {
 
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown*, REFIID riid, void** object) override {
     if (which_ == FakeClsid::kFactoryRefuses) return E_OUTOFMEMORY;
-    return ComPtr<Provider>(new Provider(which_))->QueryInterface(riid, object);
+    return Com<Provider>(new Provider(which_))->QueryInterface(riid, object);
   }
   HRESULT STDMETHODCALLTYPE LockServer(BOOL) override { return S_OK; }
 
@@ -200,7 +200,7 @@ STDAPI DllGetClassObject(REFCLSID clsid, REFIID riid, LPVOID* object) {
     *object = traceText.data();
     return S_OK;
   }
-  return ComPtr<Factory>(new Factory(which))->QueryInterface(riid, object);
+  return tqcim::Com<Factory>(new Factory(which))->QueryInterface(riid, object);
 }
 
 STDAPI DllCanUnloadNow() {

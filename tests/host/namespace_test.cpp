@@ -15,10 +15,10 @@ constexpr HRESULT kBadNamespace = static_cast<HRESULT>(0x8004100E);
 class NamespaceTest : public HostObjectsTest {
  protected:
   HRESULT GetClass(const OLECHAR* path, LONG flags = 0) {
-    const BstrPtr text(SysAllocString(path));
+    const Bstr text(path);
     IWbemClassObject* object = nullptr;
     const HRESULT result = name_space_->GetObject(text.get(), flags, nullptr, &object, nullptr);
-    object_.reset(object);
+    object_ = Com(object);
     return result;
   }
   std::string ClassOfObject() {
@@ -27,8 +27,8 @@ class NamespaceTest : public HostObjectsTest {
     return ToUtf8(V_BSTR(&name));
   }
   HRESULT Connect(const OLECHAR* resource) {
-    const ComPtr<Locator> locator(new Locator(name_space_));
-    const BstrPtr text(SysAllocString(resource));
+    const Com<Locator> locator(new Locator(name_space_));
+    const Bstr text(resource);
     IWbemServices* services = nullptr;
     const HRESULT result = locator->ConnectServer(text.get(), nullptr, nullptr, nullptr, 0, nullptr,
                                                   nullptr, &services);
@@ -41,7 +41,7 @@ class NamespaceTest : public HostObjectsTest {
 
   std::shared_ptr<Namespace> name_space_ =
       std::make_shared<Namespace>(SchemaFromText("class VORN_Thing { [Key] string Name; };"));
-  ComPtr<IWbemClassObject> object_;
+  Com<IWbemClassObject> object_;
 };
 
 TEST_F(NamespaceTest, GivesDefinitionsInAnyCaseUnderTheDeclaredName) {
@@ -64,7 +64,7 @@ TEST_F(NamespaceTest, AnswersWhatItDoesNotHave) {
   EXPECT_EQ(kBadPath, GetClass(OLESTR("root\\cimv2\\vorn")));
   EXPECT_EQ(kBadPath, GetClass(OLESTR("root\\cimv2:VORN_Thing")));
   EXPECT_EQ(kBadPath, GetClass(OLESTR("\\\\elsewhere\\root\\cimv2\\vorn:VORN_Thing")));
-  EXPECT_EQ(nullptr, object_);
+  EXPECT_FALSE(object_);
   IWbemClassObject* object = nullptr;
   EXPECT_EQ(kBadArgument, name_space_->GetObject(nullptr, 0, nullptr, &object, nullptr));
 }
@@ -126,7 +126,7 @@ TEST_F(NamespaceTest, LocatorRefusesEveryOtherNamespace) {
 }
 
 TEST_F(NamespaceTest, LocatorIsOneTableForItsInterfaceAndIUnknown) {
-  const ComPtr<Locator> locator(new Locator(name_space_));
+  const Com<Locator> locator(new Locator(name_space_));
   void* unknown = nullptr;
   void* own = nullptr;
   ASSERT_EQ(S_OK, locator->QueryInterface(IID_IUnknown, &unknown));

@@ -15,10 +15,10 @@ class PathObjectTest : public HostObjectsTest {
  protected:
   HRESULT Set(const OLECHAR* text) { return path_->SetText(WBEMPATH_CREATE_ACCEPT_ALL, text); }
 
-  ComPtr<IWbemPathKeyList> Keys() {
+  Com<IWbemPathKeyList> Keys() {
     IWbemPathKeyList* keys = nullptr;
     EXPECT_EQ(S_OK, path_->GetKeyList(&keys));
-    return ComPtr<IWbemPathKeyList>(keys);
+    return Com<IWbemPathKeyList>(keys);
   }
   std::string Text(LONG flags) {
     OLECHAR text[128] = {};
@@ -28,7 +28,7 @@ class PathObjectTest : public HostObjectsTest {
     return ToUtf8(text);
   }
 
-  ComPtr<PathObject> path_{new PathObject};
+  Com<PathObject> path_{new PathObject};
 };
 
 TEST_F(PathObjectTest, TheClassNameIsAskedForTwice) {
@@ -123,7 +123,7 @@ TEST_F(PathObjectTest, AKeyListOutlivesItsPath) {
   ASSERT_EQ(S_OK, Set(OLESTR("C.Key=\"x\"")));
   const auto keys = Keys();
   ASSERT_EQ(S_OK, Set(OLESTR("D")));
-  path_.reset();
+  path_.Release();
   ULONG count = 0;
   EXPECT_EQ(S_OK, keys->GetCount(&count));
   EXPECT_EQ(1u, count);

@@ -46,6 +46,16 @@ TEST_P(ProviderClass, PutsEveryKeyAndNoTwoInstancesShareAPath) {
   }
 }
 
+TEST(EveryObject, IsGotAsADiscreteSensorWhateverItsType) {
+  const auto host = ManagementHost::Open();
+  int instances = 0;
+  for (int oid = 1; oid <= 160; ++oid) {
+    const std::string path = "CIM_DiscreteSensor.DeviceID=\"" + std::to_string(oid) + "\"";
+    EXPECT_TRUE(host->Get(path, [&](const Instance&) { ++instances; }).ok()) << path;
+  }
+  EXPECT_EQ(80, instances) << "the objects of the embedded sample";
+}
+
 std::vector<std::string> ServedClasses() {
   std::vector<std::string> names;
   const Schema schema = Schema::Embedded();

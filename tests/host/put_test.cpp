@@ -36,8 +36,8 @@ class Put : public HostObjectsTest {
         real32 R32; real64 R64; boolean B; string S; datetime D; T ref Ref; char16 C16;
         uint32 U32s[]; uint16 U16s[]; sint16 S16s[]; string Ss[]; uint64 U64s[]; boolean Bs[];
       };)");
-  ComPtr<ClassObject> definition_ = ClassObject::Definition(schema_, *schema_->Find("T"));
-  ComPtr<IWbemClassObject> instance_ = Spawn(*definition_);
+  Com<ClassObject> definition_ = ClassObject::Definition(schema_, *schema_->Find("T"));
+  Com<IWbemClassObject> instance_ = Spawn(*definition_);
 };
 
 TEST_F(Put, TakesTheVariantTypeThatBelongsToTheDeclaredType) {

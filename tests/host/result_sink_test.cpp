@@ -39,9 +39,9 @@ class ResultSinkTest : public HostObjectsTest {
   }
 
   std::shared_ptr<const Schema> schema_ = SchemaFromText("class T { [Key] string Name; };");
-  ComPtr<ClassObject> definition_ = ClassObject::Definition(schema_, *schema_->Find("T"));
+  Com<ClassObject> definition_ = ClassObject::Definition(schema_, *schema_->Find("T"));
   std::vector<std::string> paths_;
-  ComPtr<ResultSink> sink_{
+  Com<ResultSink> sink_{
       new ResultSink([this](Instance instance) { paths_.push_back(instance.path); })};
 };
 
@@ -86,7 +86,7 @@ TEST_F(ResultSinkTest, TakesNothingAfterItWasClosed) {
 }
 
 TEST_F(ResultSinkTest, WhatTheReceiverThrowsStopsTheProviderAndReachesTheCaller) {
-  sink_.reset(new ResultSink([](const Instance&) { throw std::runtime_error("full"); }));
+  sink_ = Com(new ResultSink([](const Instance&) { throw std::runtime_error("full"); }));
   EXPECT_EQ(kCancelled, Indicate(OLESTR("a")));
   EXPECT_EQ(kCancelled, Indicate(OLESTR("b")));
   EXPECT_EQ(S_OK, sink_->SetStatus(0, 0, nullptr, nullptr));
@@ -94,7 +94,7 @@ TEST_F(ResultSinkTest, WhatTheReceiverThrowsStopsTheProviderAndReachesTheCaller)
 }
 
 TEST_F(ResultSinkTest, RefusesObjectsThatTheHostHasNotMade) {
-  const ComPtr<ForeignObject> foreign(new ForeignObject);
+  const Com<ForeignObject> foreign(new ForeignObject);
   IWbemClassObject* object = foreign.get();
   EXPECT_EQ(static_cast<HRESULT>(0x8004100F), sink_->Indicate(1, &object));
   object = nullptr;
@@ -102,7 +102,7 @@ TEST_F(ResultSinkTest, RefusesObjectsThatTheHostHasNotMade) {
 }
 
 TEST_F(ResultSinkTest, AnInitSinkRemembersWhatTheProviderSaid) {
-  const ComPtr<InitSink> init(new InitSink);
+  const Com<InitSink> init(new InitSink);
   EXPECT_EQ(std::nullopt, init->Status());
   EXPECT_EQ(S_OK, init->SetStatus(static_cast<LONG>(0x80041001), 0));
   EXPECT_EQ(std::optional(static_cast<HRESULT>(0x80041001)), init->Status());

@@ -4,15 +4,17 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <set>
 #include <string>
 #include <vector>
 
 namespace tqcim::testing {
 
-/// One structure: its title and its properties. Lists below a property are left out.
+/// One structure: its title, its properties and the lines of the lists below some of them.
 struct DecodedStructure {
   std::string title;
   std::map<std::string, std::string> properties;
+  std::set<std::string> lines;
 
   /// A property without trailing blanks; empty where it is missing or "Not Specified", which is
   /// how the decoder prints a string number of 0.
@@ -34,8 +36,10 @@ inline std::vector<DecodedStructure> Decoded(const std::filesystem::path& path,
   for (std::string line; std::getline(file, line);) {
     if (afterHandle) {
       wanted = line == title;
-      if (wanted) structures.push_back({title, {}});
-    } else if (wanted && line.size() > 1 && line[0] == '\t' && line[1] != '\t') {
+      if (wanted) structures.push_back({title, {}, {}});
+    } else if (wanted && line.rfind("\t\t", 0) == 0) {
+      structures.back().lines.insert(line.substr(2));
+    } else if (wanted && line.rfind("\t", 0) == 0) {
       const size_t colon = line.find(": ");
       if (colon != std::string::npos) {
         structures.back().properties[line.substr(1, colon - 1)] = line.substr(colon + 2);

@@ -6,6 +6,7 @@
 #include <numeric>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace tqcim::testing {
@@ -28,6 +29,20 @@ inline ByteVector Joined(std::initializer_list<ByteVector> parts) {
   ByteVector all;
   for (const ByteVector& part : parts) all.insert(all.end(), part.begin(), part.end());
   return all;
+}
+
+/// The structure cut to `length` bytes, as an older version of the standard has it.
+inline ByteVector Shortened(ByteVector formatted, uint8_t length) {
+  formatted.resize(length);
+  formatted[1] = length;
+  return formatted;
+}
+
+/// The structure with other bytes at these offsets.
+inline ByteVector With(ByteVector formatted,
+                       std::initializer_list<std::pair<size_t, uint8_t>> changes) {
+  for (const auto& [offset, value] : changes) formatted[offset] = value;
+  return formatted;
 }
 
 inline const ByteVector kEndOfTable = {127, 4, 0xFF, 0xFE, 0, 0};

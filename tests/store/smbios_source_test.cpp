@@ -2,24 +2,24 @@
 
 #include <gtest/gtest.h>
 
-#include <utility>
-
 #include "tests/store/raw_bytes.h"
 #include "tests/store/smbios_bytes.h"
+#include "tests/store/smbios_snapshot.h"
 
 namespace tqcim::store::smbios {
 namespace {
 
 using tqcim::testing::BytesOf;
 using tqcim::testing::ByteVector;
-using tqcim::testing::Joined;
-using tqcim::testing::kEndOfTable;
 using tqcim::testing::Oids;
+using tqcim::testing::Shortened;
+using tqcim::testing::SnapshotOfStructures;
 using tqcim::testing::Text;
 using tqcim::testing::U16;
 using tqcim::testing::U32;
 using tqcim::testing::U64;
 using tqcim::testing::U8;
+using tqcim::testing::With;
 using tqcim::testing::WithStrings;
 
 // The OIDs of the objects that are made of the first structure of their kind.
@@ -30,34 +30,14 @@ constexpr uint32_t kSocket = 196 * 65536 + 1;
 constexpr uint32_t kProcessor = 210 * 65536 + 1;
 constexpr uint32_t kMemory = 225 * 65536 + 1;
 
-std::unique_ptr<Snapshot> Of(std::initializer_list<ByteVector> structures) {
-  const ByteVector table = Joined({Joined(structures), kEndOfTable});
-  EntryPoint entryPoint;
-  entryPoint.tableLength = static_cast<uint32_t>(table.size());
-  return SnapshotOf(table, entryPoint, "f", 0x20);
-}
-
-/// The structure cut to `length` bytes, as an older version of the standard has it.
-ByteVector Shortened(ByteVector formatted, uint8_t length) {
-  formatted.resize(length);
-  formatted[1] = length;
-  return formatted;
-}
-
-/// The structure with other bytes at these offsets.
-ByteVector With(ByteVector formatted, std::initializer_list<std::pair<size_t, uint8_t>> changes) {
-  for (const auto& [offset, value] : changes) formatted[offset] = value;
-  return formatted;
-}
-
 const ByteVector kSystemStructure =
     WithStrings({1, 8, 1, 0, 1, 2, 3, 4}, {"Vorn", "Tessera 2200", "A1", "VR7"});
 
 const ByteVector kEnclosure = {3, 0x0D, 3, 0, 1, 0x97, 2, 3, 4, 3, 3, 3, 0};
 
 TEST(SmbiosChassis, IsTheEnclosureWithTheNamesOfTheSystem) {
-  const auto snapshot =
-      Of({kSystemStructure, WithStrings(kEnclosure, {"Vorn", "rev 2", "SN1", "TAG1"})});
+  const auto snapshot = SnapshotOfStructures(
+      {kSystemStructure, WithStrings(kEnclosure, {"Vorn", "rev 2", "SN1", "TAG1"})});
   EXPECT_EQ(Oids(snapshot->Children(1, 17)), std::vector<uint32_t>({2}));
   EXPECT_EQ(Oids(snapshot->Children(2, 32)), std::vector<uint32_t>({kDescription}));
   EXPECT_EQ(Oids(snapshot->Children(2, 33)), std::vector<uint32_t>({kIdentity}));
@@ -75,13 +55,13 @@ TEST(SmbiosChassis, IsTheEnclosureWithTheNamesOfTheSystem) {
 }
 
 TEST(SmbiosChassis, WithoutALockIsOpen) {
-  const auto snapshot = Of({WithStrings(With(kEnclosure, {{5, 0x17}}), {})});
+  const auto snapshot = SnapshotOfStructures({WithStrings(With(kEnclosure, {{5, 0x17}}), {})});
   EXPECT_EQ(U32(BytesOf(*snapshot, kDescription), 16), 0x17U);
   EXPECT_EQ(U16(BytesOf(*snapshot, kDescription), 24), 0);
 }
 
 TEST(SmbiosChassis, IsThereEvenIfTheTableDoesNotTellOfIt) {
-  const auto snapshot = Of({});
+  const auto snapshot = SnapshotOfStructures({});
   EXPECT_EQ(U8(BytesOf(*snapshot, 1), 10), 1) << "unknown, and no fault";
   EXPECT_EQ(U8(BytesOf(*snapshot, 2), 10), 1);
   const std::byte* description = BytesOf(*snapshot, kDescription);
@@ -92,7 +72,7 @@ TEST(SmbiosChassis, IsThereEvenIfTheTableDoesNotTellOfIt) {
 
 TEST(SmbiosChassis, NamesItselfByWhatTheSystemTells) {
   const auto nameOf = [](const ByteVector& system) {
-    const auto snapshot = Of({system});
+    const auto snapshot = SnapshotOfStructures({system});
     return Text(BytesOf(*snapshot, kDescription), 32);
   };
   EXPECT_EQ(nameOf(WithStrings({1, 6, 1, 0, 1, 0}, {"Vorn"})), u"Vorn");
@@ -104,8 +84,8 @@ TEST(SmbiosChassis, NamesItselfByWhatTheSystemTells) {
 
 TEST(SmbiosChassis, StatusIsTheWorstStateThatIsTold) {
   const auto statusOf = [](uint8_t boot, uint8_t power, uint8_t thermal) {
-    const auto snapshot =
-        Of({WithStrings(With(kEnclosure, {{9, boot}, {10, power}, {11, thermal}}), {})});
+    const auto snapshot = SnapshotOfStructures(
+        {WithStrings(With(kEnclosure, {{9, boot}, {10, power}, {11, thermal}}), {})});
     EXPECT_EQ(U8(BytesOf(*snapshot, 1), 10), U8(BytesOf(*snapshot, 2), 10));
     return U8(BytesOf(*snapshot, 2), 10);
   };
@@ -120,14 +100,15 @@ TEST(SmbiosChassis, StatusIsTheWorstStateThatIsTold) {
 }
 
 TEST(SmbiosChassis, OfAnOldRecordHasNoStates) {
-  const auto snapshot = Of({WithStrings(Shortened(kEnclosure, 9), {"a", "b", "SN1", "TAG1"})});
+  const auto snapshot =
+      SnapshotOfStructures({WithStrings(Shortened(kEnclosure, 9), {"a", "b", "SN1", "TAG1"})});
   EXPECT_EQ(U8(BytesOf(*snapshot, 2), 10), 1);
   EXPECT_EQ(Text(BytesOf(*snapshot, kIdentity), 36), u"TAG1");
 }
 
 TEST(SmbiosChassis, IsTheFirstEnclosureOfSeveral) {
-  const auto snapshot = Of({WithStrings(kEnclosure, {"", "b", "SN1", "TAG1"}),
-                            WithStrings(kEnclosure, {"a", "b", "SN2", "TAG2"})});
+  const auto snapshot = SnapshotOfStructures({WithStrings(kEnclosure, {"", "b", "SN1", "TAG1"}),
+                                              WithStrings(kEnclosure, {"a", "b", "SN2", "TAG2"})});
   EXPECT_EQ(Oids(snapshot->Children(1, 17)), std::vector<uint32_t>({2}));
 }
 
@@ -136,7 +117,8 @@ const ByteVector kBiosStructure = {0,    0x18, 0,    0,    1,    2,    0,    0xF
                                    0x33, 0x44, 0x03, 0x0D, 2,    7,    0xFF, 0xFF};
 
 TEST(SmbiosBios, FillsTheBiosObject) {
-  const auto snapshot = Of({WithStrings(kBiosStructure, {"Vorn", "2.7.1", "03/14/2024"})});
+  const auto snapshot =
+      SnapshotOfStructures({WithStrings(kBiosStructure, {"Vorn", "2.7.1", "03/14/2024"})});
   EXPECT_EQ(Oids(snapshot->Children(2, 212)), std::vector<uint32_t>({kBios}));
   const std::byte* bios = BytesOf(*snapshot, kBios);
   EXPECT_EQ(U8(bios, 10), 2);
@@ -149,23 +131,27 @@ TEST(SmbiosBios, FillsTheBiosObject) {
 }
 
 TEST(SmbiosBios, ExtensionBytesAreThereAsFarAsTheRecordReaches) {
-  const auto one = Of({WithStrings(Shortened(kBiosStructure, 0x13), {"V", "1", "d"})});
+  const auto one =
+      SnapshotOfStructures({WithStrings(Shortened(kBiosStructure, 0x13), {"V", "1", "d"})});
   EXPECT_EQ(U8(BytesOf(*one, kBios), 30), 0x03);
   EXPECT_EQ(U8(BytesOf(*one, kBios), 31), 0);
-  const auto none = Of({WithStrings(Shortened(kBiosStructure, 0x12), {"V", "1", "d"})});
+  const auto none =
+      SnapshotOfStructures({WithStrings(Shortened(kBiosStructure, 0x12), {"V", "1", "d"})});
   EXPECT_EQ(U8(BytesOf(*none, kBios), 30), 0);
   EXPECT_EQ(U64(BytesOf(*none, kBios), 48), 0x4433221108D99080U);
-  const auto old = Of({WithStrings(Shortened(kBiosStructure, 0x11), {"V", "1", "d"})});
+  const auto old =
+      SnapshotOfStructures({WithStrings(Shortened(kBiosStructure, 0x11), {"V", "1", "d"})});
   EXPECT_EQ(U64(BytesOf(*old, kBios), 48), 0U) << "a word that isn't whole is not there";
 }
 
 TEST(SmbiosBios, WithoutAReleaseDateHasNone) {
-  const auto snapshot = Of({WithStrings(With(kBiosStructure, {{8, 0}}), {"Vorn", "2.7.1"})});
+  const auto snapshot =
+      SnapshotOfStructures({WithStrings(With(kBiosStructure, {{8, 0}}), {"Vorn", "2.7.1"})});
   EXPECT_EQ(U32(BytesOf(*snapshot, kBios), 40), 0U);
 }
 
 TEST(SmbiosBios, IsNotThereIfTheTableDoesNotTellOfIt) {
-  const auto snapshot = Of({kSystemStructure});
+  const auto snapshot = SnapshotOfStructures({kSystemStructure});
   EXPECT_EQ(Oids(snapshot->Children(2, 212)), std::vector<uint32_t>());
 }
 
@@ -182,7 +168,7 @@ const std::initializer_list<std::string_view> kProcessorStrings = {
     "CPU1", "Quadrel", "Quadrel KS-4112 @ 2.40GHz", "S", "A", "P"};
 
 TEST(SmbiosProcessor, FillsTheSocketAndTheProcessorInIt) {
-  const auto snapshot = Of({WithStrings(kProcessorStructure, kProcessorStrings)});
+  const auto snapshot = SnapshotOfStructures({WithStrings(kProcessorStructure, kProcessorStrings)});
   EXPECT_EQ(Oids(snapshot->Children(2, 196)), std::vector<uint32_t>({kSocket}));
   EXPECT_EQ(Oids(snapshot->Children(kSocket, 210)), std::vector<uint32_t>({kProcessor}));
   EXPECT_EQ(Oids(snapshot->Children(2, 210)), std::vector<uint32_t>({kProcessor}));
@@ -203,9 +189,9 @@ TEST(SmbiosProcessor, FillsTheSocketAndTheProcessorInIt) {
 }
 
 TEST(SmbiosProcessor, AnEmptySocketHasNoProcessor) {
-  const auto snapshot =
-      Of({WithStrings(With(kProcessorStructure, {{0x18, 0x00}}), kProcessorStrings),
-          WithStrings(kProcessorStructure, {"CPU2"})});
+  const auto snapshot = SnapshotOfStructures(
+      {WithStrings(With(kProcessorStructure, {{0x18, 0x00}}), kProcessorStrings),
+       WithStrings(kProcessorStructure, {"CPU2"})});
   EXPECT_EQ(Oids(snapshot->Children(2, 196)), std::vector<uint32_t>({kSocket, kSocket + 1}));
   EXPECT_EQ(Oids(snapshot->Children(kSocket, 210)), std::vector<uint32_t>());
   EXPECT_EQ(Oids(snapshot->Children(kSocket + 1, 210)), std::vector<uint32_t>({kProcessor + 1}));
@@ -229,7 +215,7 @@ TEST(SmbiosProcessor, EveryStateHasItsCodeAndStatus) {
       {7, 1, 0},  // other
   };
   for (const auto& c : cases) {
-    const auto snapshot = Of({WithStrings(
+    const auto snapshot = SnapshotOfStructures({WithStrings(
         With(kProcessorStructure, {{0x18, static_cast<uint8_t>(0x40 | c.bits)}}), {"CPU1"})});
     EXPECT_EQ(U32(BytesOf(*snapshot, kProcessor), 40), c.code) << int{c.bits};
     EXPECT_EQ(U8(BytesOf(*snapshot, kProcessor), 10), c.status) << int{c.bits};
@@ -238,16 +224,16 @@ TEST(SmbiosProcessor, EveryStateHasItsCodeAndStatus) {
 }
 
 TEST(SmbiosProcessor, FamilyAndCoreCountsAreSentToTheirSecondFields) {
-  const auto snapshot = Of({WithStrings(With(kProcessorStructure, {{0x06, 0xFE},
-                                                                   {0x28, 0x01},
-                                                                   {0x29, 0x02},
-                                                                   {0x23, 0xFF},
-                                                                   {0x2A, 0x2C},
-                                                                   {0x2B, 0x01},
-                                                                   {0x24, 0xFF},
-                                                                   {0x2C, 0x00},
-                                                                   {0x2D, 0x01}}),
-                                        {"CPU1"})});
+  const auto snapshot = SnapshotOfStructures({WithStrings(With(kProcessorStructure, {{0x06, 0xFE},
+                                                                                     {0x28, 0x01},
+                                                                                     {0x29, 0x02},
+                                                                                     {0x23, 0xFF},
+                                                                                     {0x2A, 0x2C},
+                                                                                     {0x2B, 0x01},
+                                                                                     {0x24, 0xFF},
+                                                                                     {0x2C, 0x00},
+                                                                                     {0x2D, 0x01}}),
+                                                          {"CPU1"})});
   const std::byte* processor = BytesOf(*snapshot, kProcessor);
   EXPECT_EQ(U32(processor, 20), 0x0201U);
   EXPECT_EQ(U32(processor, 56), 300U);
@@ -255,7 +241,7 @@ TEST(SmbiosProcessor, FamilyAndCoreCountsAreSentToTheirSecondFields) {
 }
 
 TEST(SmbiosProcessor, ASecondFieldThatTheRecordLacksIsUnknown) {
-  const auto snapshot = Of({WithStrings(
+  const auto snapshot = SnapshotOfStructures({WithStrings(
       Shortened(With(kProcessorStructure, {{0x06, 0xFE}, {0x23, 0xFF}, {0x24, 0xFF}}), 0x28),
       {"CPU1"})});
   const std::byte* processor = BytesOf(*snapshot, kProcessor);
@@ -265,8 +251,8 @@ TEST(SmbiosProcessor, ASecondFieldThatTheRecordLacksIsUnknown) {
 }
 
 TEST(SmbiosProcessor, AnOldRecordTellsOnlyWhatItHas) {
-  const auto snapshot =
-      Of({WithStrings(Shortened(kProcessorStructure, 0x1A), {"CPU1", "Q", "KS"})});
+  const auto snapshot = SnapshotOfStructures(
+      {WithStrings(Shortened(kProcessorStructure, 0x1A), {"CPU1", "Q", "KS"})});
   const std::byte* processor = BytesOf(*snapshot, kProcessor);
   EXPECT_EQ(U32(processor, 44), 0x33U);
   EXPECT_EQ(U32(processor, 56), 0U);
@@ -275,20 +261,21 @@ TEST(SmbiosProcessor, AnOldRecordTellsOnlyWhatItHas) {
 }
 
 TEST(SmbiosProcessor, ARecordThatEndsBeforeItsStatusIsAnEmptySocket) {
-  const auto snapshot = Of({WithStrings(Shortened(kProcessorStructure, 0x18), {"CPU1"})});
+  const auto snapshot =
+      SnapshotOfStructures({WithStrings(Shortened(kProcessorStructure, 0x18), {"CPU1"})});
   EXPECT_EQ(Oids(snapshot->Children(2, 196)), std::vector<uint32_t>({kSocket}));
   EXPECT_EQ(Oids(snapshot->Children(2, 210)), std::vector<uint32_t>());
 }
 
 TEST(SmbiosProcessor, TheSignatureIsReadAsItsFamilyDefinesIt) {
   const auto modelOf = [](uint8_t family, uint32_t signature) {
-    const auto snapshot =
-        Of({WithStrings(With(kProcessorStructure, {{0x06, family},
-                                                   {0x08, static_cast<uint8_t>(signature)},
-                                                   {0x09, static_cast<uint8_t>(signature >> 8)},
-                                                   {0x0A, static_cast<uint8_t>(signature >> 16)},
-                                                   {0x0B, static_cast<uint8_t>(signature >> 24)}}),
-                        {"CPU1"})});
+    const auto snapshot = SnapshotOfStructures(
+        {WithStrings(With(kProcessorStructure, {{0x06, family},
+                                                {0x08, static_cast<uint8_t>(signature)},
+                                                {0x09, static_cast<uint8_t>(signature >> 8)},
+                                                {0x0A, static_cast<uint8_t>(signature >> 16)},
+                                                {0x0B, static_cast<uint8_t>(signature >> 24)}}),
+                     {"CPU1"})});
     return Text(BytesOf(*snapshot, kProcessor), 76);
   };
   EXPECT_EQ(modelOf(0xB3, 0x000206C2), u"Family 6 Model 44");
@@ -318,7 +305,7 @@ const std::initializer_list<std::string_view> kMemoryStrings = {"DIMM_A1",  "Ban
                                                                 "4D7A31C0", "T",      "P"};
 
 TEST(SmbiosMemory, FillsTheMemoryDevice) {
-  const auto snapshot = Of({WithStrings(kMemoryStructure, kMemoryStrings)});
+  const auto snapshot = SnapshotOfStructures({WithStrings(kMemoryStructure, kMemoryStrings)});
   EXPECT_EQ(Oids(snapshot->Children(2, 225)), std::vector<uint32_t>({kMemory}));
   const std::byte* memory = BytesOf(*snapshot, kMemory);
   EXPECT_EQ(U8(memory, 10), 2);
@@ -338,9 +325,9 @@ TEST(SmbiosMemory, FillsTheMemoryDevice) {
 }
 
 TEST(SmbiosMemory, AnEmptySocketIsNoDeviceAndKeepsItsPlaceInTheNumbering) {
-  const auto snapshot =
-      Of({WithStrings(With(kMemoryStructure, {{0x0C, 0}, {0x0D, 0}}), kMemoryStrings),
-          WithStrings(kMemoryStructure, kMemoryStrings)});
+  const auto snapshot = SnapshotOfStructures(
+      {WithStrings(With(kMemoryStructure, {{0x0C, 0}, {0x0D, 0}}), kMemoryStrings),
+       WithStrings(kMemoryStructure, kMemoryStrings)});
   EXPECT_EQ(Oids(snapshot->Children(2, 225)), std::vector<uint32_t>({kMemory + 1}));
 }
 
@@ -351,7 +338,7 @@ TEST(SmbiosMemory, SizesComeInMegabytesKilobytesAndTheExtendedField) {
     bool operator==(const Sizes&) const = default;
   };
   const auto sizesOf = [](uint16_t size, uint32_t extended, uint8_t length = 0x5C) {
-    const auto snapshot = Of({WithStrings(
+    const auto snapshot = SnapshotOfStructures({WithStrings(
         Shortened(With(kMemoryStructure, {{0x0C, static_cast<uint8_t>(size)},
                                           {0x0D, static_cast<uint8_t>(size >> 8)},
                                           {0x1C, static_cast<uint8_t>(extended)},
@@ -375,14 +362,14 @@ TEST(SmbiosMemory, SizesComeInMegabytesKilobytesAndTheExtendedField) {
 }
 
 TEST(SmbiosMemory, WhatIsUnknownStaysUnset) {
-  const auto snapshot = Of({WithStrings(With(kMemoryStructure, {{0x08, 0xFF},
-                                                                {0x09, 0xFF},
-                                                                {0x0A, 0xFF},
-                                                                {0x0B, 0xFF},
-                                                                {0x15, 0},
-                                                                {0x16, 0},
-                                                                {0x1B, 0xF0}}),
-                                        {})});
+  const auto snapshot = SnapshotOfStructures({WithStrings(With(kMemoryStructure, {{0x08, 0xFF},
+                                                                                  {0x09, 0xFF},
+                                                                                  {0x0A, 0xFF},
+                                                                                  {0x0B, 0xFF},
+                                                                                  {0x15, 0},
+                                                                                  {0x16, 0},
+                                                                                  {0x1B, 0xF0}}),
+                                                          {})});
   const std::byte* memory = BytesOf(*snapshot, kMemory);
   EXPECT_EQ(U32(memory, 16), 0U);
   EXPECT_EQ(U32(memory, 20), 0U);
@@ -394,7 +381,7 @@ TEST(SmbiosMemory, WhatIsUnknownStaysUnset) {
 
 TEST(SmbiosMemory, ASpeedPastTheWordIsInTheExtendedField) {
   const auto speedOf = [](uint8_t length) {
-    const auto snapshot = Of(
+    const auto snapshot = SnapshotOfStructures(
         {WithStrings(Shortened(With(kMemoryStructure, {{0x15, 0xFF}, {0x16, 0xFF}}), length), {})});
     return U32(BytesOf(*snapshot, kMemory), 44);
   };
@@ -404,27 +391,47 @@ TEST(SmbiosMemory, ASpeedPastTheWordIsInTheExtendedField) {
 }
 
 TEST(SmbiosMemory, AnOldRecordTellsOnlyWhatItHas) {
-  const auto snapshot = Of({WithStrings(Shortened(kMemoryStructure, 0x15), {"DIMM 1", "B"})});
+  const auto snapshot =
+      SnapshotOfStructures({WithStrings(Shortened(kMemoryStructure, 0x15), {"DIMM 1", "B"})});
   const std::byte* memory = BytesOf(*snapshot, kMemory);
   EXPECT_EQ(U32(memory, 24), 16777216U);
   EXPECT_EQ(U32(memory, 36), 26U);
   EXPECT_EQ(U32(memory, 44), 0U);
   EXPECT_EQ(Text(memory, 68), u"DIMM 1");
   EXPECT_EQ(Text(memory, 84), u"");
-  const auto none = Of({WithStrings(Shortened(kMemoryStructure, 0x0D), {})});
+  const auto none = SnapshotOfStructures({WithStrings(Shortened(kMemoryStructure, 0x0D), {})});
   EXPECT_EQ(Oids(none->Children(2, 225)), std::vector<uint32_t>()) << "no size at all";
 }
 
 TEST(SmbiosSource, RecordsOfTheBareHeaderTellNothingAndBreakNothing) {
-  const auto snapshot = Of({WithStrings({0, 4, 0, 0}, {}), WithStrings({1, 4, 1, 0}, {}),
-                            WithStrings({3, 4, 2, 0}, {}), WithStrings({4, 4, 3, 0}, {}),
-                            WithStrings({17, 4, 4, 0}, {}), WithStrings({126, 4, 5, 0}, {})});
-  EXPECT_EQ(snapshot->Objects().size(), 6U) << "system, chassis and its two, bios, a socket";
+  const auto snapshot = SnapshotOfStructures(
+      {WithStrings({0, 4, 0, 0}, {}), WithStrings({1, 4, 1, 0}, {}), WithStrings({2, 4, 6, 0}, {}),
+       WithStrings({3, 4, 2, 0}, {}), WithStrings({4, 4, 3, 0}, {}), WithStrings({8, 4, 7, 0}, {}),
+       WithStrings({9, 4, 8, 0}, {}), WithStrings({17, 4, 4, 0}, {}),
+       WithStrings({21, 4, 9, 0}, {}), WithStrings({39, 4, 10, 0}, {}),
+       WithStrings({126, 4, 5, 0}, {})});
+  EXPECT_EQ(snapshot->Objects().size(), 9U)
+      << "system, chassis and its two, bios, a board, a socket, a slot, a pointing device";
+}
+
+TEST(SmbiosSource, StructuresAreNumberedByTypeWhateverStandsBetween) {
+  const ByteVector board = WithStrings({2, 8, 1, 0, 0, 0, 0, 0}, {});
+  const ByteVector slot = WithStrings({9, 5, 2, 0, 0}, {});
+  const ByteVector vendors = WithStrings({200, 4, 3, 0}, {});
+  const auto snapshot =
+      SnapshotOfStructures({vendors, slot, board, WithStrings(kMemoryStructure, kMemoryStrings),
+                            slot, vendors, board, WithStrings({21, 4, 4, 0}, {})});
+  EXPECT_EQ(Oids(snapshot->Children(2, 228)),
+            std::vector<uint32_t>({228 * 65536 + 1, 228 * 65536 + 2}));
+  EXPECT_EQ(Oids(snapshot->Children(2, 259)),
+            std::vector<uint32_t>({259 * 65536 + 1, 259 * 65536 + 2}));
+  EXPECT_EQ(Oids(snapshot->Children(2, 225)), std::vector<uint32_t>({kMemory}));
+  EXPECT_EQ(Oids(snapshot->Children(2, 208)), std::vector<uint32_t>({208 * 65536 + 1}));
 }
 
 TEST(SmbiosSource, HandlesThatRepeatAreNoMatter) {
-  const auto snapshot = Of({WithStrings(kMemoryStructure, kMemoryStrings),
-                            WithStrings(kMemoryStructure, kMemoryStrings)});
+  const auto snapshot = SnapshotOfStructures({WithStrings(kMemoryStructure, kMemoryStrings),
+                                              WithStrings(kMemoryStructure, kMemoryStrings)});
   EXPECT_EQ(Oids(snapshot->Children(2, 225)), std::vector<uint32_t>({kMemory, kMemory + 1}));
 }
 

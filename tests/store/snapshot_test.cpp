@@ -54,14 +54,21 @@ TEST(Snapshot, AHeaderHoldsOidTypeAndStatus) {
 }
 
 TEST(Snapshot, ABodyIsAsLongAsItsLayout) {
+  EXPECT_EQ(BodySize(layouts::memory_device::kLayout), 116U);
+  EXPECT_EQ(BodySize(layouts::power_consumption::kLayout), 100U);
+}
+
+TEST(Snapshot, AnObjectThatIsReadAsASensorHasAnEmptyName) {
   SnapshotBuilder builder = WithChassis();
   builder.Add(3, layouts::bios_settings::kLayout, Status::kOk, {2});
-  builder.Add(4, layouts::intrusion::kLayout, Status::kOk, {2});
+  builder.Add(4, layouts::power_supply::kLayout, Status::kOk, {2})
+      .Set(layouts::power_supply::kName, "PS1");
   const auto snapshot = builder.Build();
-  EXPECT_EQ(snapshot->Find(1)->bytes.size(), 16U);
-  EXPECT_EQ(snapshot->Find(3)->bytes.size(), 20U);
-  EXPECT_EQ(snapshot->Find(4)->bytes.size(), 18U);
-  EXPECT_EQ(BodySize(layouts::memory_device::kLayout), 116U);
+  for (const uint32_t oid : {1U, 2U, 3U, 4U}) {
+    ASSERT_GE(snapshot->Find(oid)->bytes.size(), 76U) << oid;
+    EXPECT_EQ(U32(BytesOf(*snapshot, oid), 72), 0U) << oid;
+    EXPECT_EQ(U16(BytesOf(*snapshot, oid), 0), 0U) << oid;
+  }
 }
 
 TEST(Snapshot, FieldsStandAtTheirOffsetsLittleEndian) {
@@ -84,14 +91,14 @@ TEST(Snapshot, FieldsStandAtTheirOffsetsLittleEndian) {
 }
 
 TEST(Snapshot, TextsStandAtEvenOffsetsBehindAnOddBody) {
-  static constexpr layout::Ucs2Field kName{"name", 17};
+  static constexpr layout::Ucs2Field kName{"name", 77};
   static constexpr layout::FieldInfo kFields[] = {kName};
   static constexpr layout::ObjectLayout kOdd{17, "odd", kFields};
   ObjectDraft draft(3, kOdd, Status::kOk, {2}, "");
   draft.Set(kName, "x");
   const StoredObject object = draft.Finish();
-  EXPECT_EQ(U32(object.bytes.data(), 17), 22U);
-  EXPECT_EQ(object.bytes.size(), 26U);
+  EXPECT_EQ(U32(object.bytes.data(), 77), 82U);
+  EXPECT_EQ(object.bytes.size(), 86U);
 }
 
 TEST(Snapshot, AFieldThatNobodySetHoldsItsNone) {

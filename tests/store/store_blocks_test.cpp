@@ -158,6 +158,21 @@ TEST(StoreBlocks, WhatTheSnapshotInServiceKnowsComesFromIt) {
   Store::Free(held);
 }
 
+TEST(StoreBlocks, AnOidThatBecomesAnotherTypeIsAbsentWhileAListOfBeforeIsHeld) {
+  Store store;
+  store.Replace(WithFirmware({5}));
+  void* held = store.ListChildren(2, 19);
+  SnapshotBuilder builder;
+  builder.Add(1, layouts::system::kLayout, Status::kOk, {});
+  builder.Add(5, layouts::chassis::kLayout, Status::kOk, {1});
+  store.Replace(builder.Build());
+  EXPECT_EQ(store.CopyObject(5), nullptr);
+  Store::Free(held);
+  void* object = store.CopyObject(5);
+  ASSERT_NE(object, nullptr);
+  Store::Free(object);
+}
+
 TEST(StoreBlocks, ARetiredSnapshotGoesWithTheRefreshAfterItsLastListWasFreed) {
   Store store;
   store.Replace(WithFirmware({5}));
@@ -174,15 +189,15 @@ TEST(StoreBlocks, ATextIsFoundAtItsOffsetOnly) {
   Store store;
   store.Replace(WithFirmware({5}, "\xC3\xA4 1"));
   void* object = store.CopyObject(5);
-  // The body ends at 40; the version takes 8 bytes, the empty name 2.
-  EXPECT_EQ(U32(object, 32), 40U);
+  // The body ends at 76; the version takes 8 bytes, the empty name 2.
+  EXPECT_EQ(U32(object, 32), 76U);
   EXPECT_EQ(VersionOf(object), "\xC3\xA4 1");
   EXPECT_EQ(Store::TextAt(object, 0), nullptr);
   EXPECT_EQ(Store::TextAt(object, 15), nullptr) << "inside the header";
-  EXPECT_EQ(Store::TextAt(object, 50), nullptr) << "right behind the object";
-  EXPECT_EQ(Store::TextAt(object, 49), nullptr) << "half a character";
+  EXPECT_EQ(Store::TextAt(object, 86), nullptr) << "right behind the object";
+  EXPECT_EQ(Store::TextAt(object, 85), nullptr) << "half a character";
   EXPECT_EQ(Store::TextAt(object, 0xFFFFFFFF), nullptr);
-  void* empty = Store::TextAt(object, 48);
+  void* empty = Store::TextAt(object, 84);
   ASSERT_NE(empty, nullptr);
   EXPECT_STREQ(static_cast<char*>(empty), "");
   Store::Free(empty);
@@ -190,15 +205,16 @@ TEST(StoreBlocks, ATextIsFoundAtItsOffsetOnly) {
 }
 
 TEST(StoreBlocks, ATextWithoutItsEndIsNone) {
+  static constexpr layout::Field<uint32_t> kLast{"last", 80};
+  static constexpr layout::FieldInfo kFields[] = {kLast};
+  static constexpr layout::ObjectLayout kWithoutTexts{50, "withoutTexts", kFields};
   SnapshotBuilder builder;
   builder.Add(1, layouts::system::kLayout, Status::kOk, {});
-  builder.Add(2, layouts::chassis::kLayout, Status::kOk, {1});
-  builder.Add(3, layouts::bios_settings::kLayout, Status::kOk, {2})
-      .Set(layouts::bios_settings::kTpmState, 0x00410041);
+  builder.Add(3, kWithoutTexts, Status::kOk, {1}).Set(kLast, 0x00410041);
   Store store;
   store.Replace(builder.Build());
   void* object = store.CopyObject(3);
-  EXPECT_EQ(Store::TextAt(object, 16), nullptr);
+  EXPECT_EQ(Store::TextAt(object, 80), nullptr);
   Store::Free(object);
 }
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/com.h"
+#include "core/variant.h"
 #include "tests/support/refusing_interfaces.h"
 
 namespace tqcim::testing {

@@ -33,6 +33,8 @@ INSTANTIATE_TEST_SUITE_P(
         HelpCall{"Classes", {"classes", "--help"}, "\nUsage: tqcim classes [OPTIONS]\n"},
         HelpCall{"List", {"list", "--help"}, "\nUsage: tqcim list [OPTIONS] CLASS\n"},
         HelpCall{"Get", {"get", "--help"}, "\nUsage: tqcim get [OPTIONS] PATH\n"},
+        HelpCall{"Health", {"health", "--help"}, "\nUsage: tqcim health [OPTIONS]\n"},
+        HelpCall{"Export", {"export", "--help"}, "\nUsage: tqcim export [OPTIONS]\n"},
         HelpCall{"Store", {"store", "--help"}, "\nUsage: tqcim store [OPTIONS] SUBCOMMAND\n"},
         HelpCall{
             "Convert", {"store", "convert", "--help"}, "\nUsage: tqcim store convert [OPTIONS]\n"},
@@ -46,7 +48,7 @@ TEST_F(ProgramHelp, ListsEveryExitStatus) {
   EXPECT_NE(
       Run({"--help"})
           .output.find(
-              "\nExit status:\n"
+              "\nExit status (tqcim health has its own):\n"
               "  0  fine\n"
               "  1  there is no such class or instance\n"
               "  2  the command line or an object path on it is not valid\n"

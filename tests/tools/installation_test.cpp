@@ -3,39 +3,16 @@
 
 #include <string>
 
+#include "tests/tools/installation.h"
 #include "tests/tools/store_files.h"
-#include "tests/tools/tool_test.h"
 
 namespace tqcim::testing {
 namespace {
 
-namespace fs = std::filesystem;
-
-class Installation : public ToolTest {
- protected:
-  /// Copies the program and the libraries, with or without the provider module.
-  void Install(bool with_provider) const {
-    fs::copy(Program(), Folder().Path());
-    for (const auto& entry : fs::directory_iterator(Program().parent_path())) {
-      const std::string extension = entry.path().extension().string();
-      const std::string name = entry.path().stem().string();
-      const bool library = extension == ".so" || extension == ".dll";
-      const bool provider = name.ends_with("tqcim64");
-      const bool needed = provider ? with_provider : name.find("tq") != std::string::npos;
-      if (library && needed) fs::copy(entry.path(), Folder().Path());
-    }
-  }
-
-  ToolRun RunInstalled(const std::vector<std::string>& arguments) const {
-    const fs::path output = Folder().Path() / "output";
-    const fs::path error = Folder().Path() / "error";
-    const int status = RunChild(Folder().Path() / TQCIM_PROGRAM_NAME, arguments, output, error);
-    return {status, ContentsOf(output), ContentsOf(error)};
-  }
-};
+using Installation = InstallationTest;
 
 TEST_F(Installation, WithoutTheProviderModuleIsAProviderFailure) {
-  Install(false);
+  InstallWithoutProvider();
   for (const auto& arguments : {std::vector<std::string>{"classes"},
                                 {"list", "VORN_System"},
                                 {"get", "VORN_System.Name=\"x\""}}) {
@@ -49,7 +26,8 @@ TEST_F(Installation, WithoutTheProviderModuleIsAProviderFailure) {
 }
 
 TEST_F(Installation, ServesTheSourceOfItsConfiguration) {
-  Install(true);
+  InstallWithoutProvider();
+  InstallProvider(TQCIM_PROVIDER_NAME);
   Write("tqcim.json", R"({"source": "store-file:machine.json"})");
   Write("machine.json", StoreFile(kMemory));
   const ToolRun run = RunInstalled({"classes", "--format", "csv"});
@@ -62,7 +40,8 @@ TEST_F(Installation, ServesTheSourceOfItsConfiguration) {
 }
 
 TEST_F(Installation, PutsTheUsersChoiceBeforeItsConfiguration) {
-  Install(true);
+  InstallWithoutProvider();
+  InstallProvider(TQCIM_PROVIDER_NAME);
   Write("tqcim.json", R"({"source": "store-file:absent.json"})");
   const std::string file = Write("machine.json", StoreFile(kMemory));
   EXPECT_EQ(RunInstalled({"classes"}).status, 3);
@@ -72,7 +51,8 @@ TEST_F(Installation, PutsTheUsersChoiceBeforeItsConfiguration) {
 }
 
 TEST_F(Installation, TellsTheLineOfABadConfiguration) {
-  Install(true);
+  InstallWithoutProvider();
+  InstallProvider(TQCIM_PROVIDER_NAME);
   Write("tqcim.json", "{\n  \"sauce\": \"firmware\"\n}\n");
   const ToolRun run = RunInstalled({"classes"});
   EXPECT_EQ(run.status, 3);

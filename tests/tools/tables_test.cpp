@@ -166,18 +166,79 @@ B                                                                   11
 )")) << table;
 }
 
+constexpr std::string_view kProbes = R"(
+    {"oid": 4, "type": "chassisDescription", "parents": [2], "fields": {"name": "The Box"}},
+    {"oid": 5, "type": "temperatureProbe", "parents": [2], "fields": {"name": "Inlet"}},
+    {"oid": 6, "type": "temperatureProbe", "parents": [2], "fields": {"name": "Outlet"}},
+    {"oid": 7, "type": "fanProbe", "parents": [2], "fields": {"name": "Fan A"}},
+    {"oid": 8, "type": "fanProbe", "parents": [2], "fields": {"name": "Fan B"}})";
+
+TEST_F(Tables, ShowReferencesByClassAndIdentifyingKeys) {
+  EXPECT_EQ(List("VORN_FanSensor", kProbes),
+            "\n"
+            "Antecedent        Dependent\n"
+            "CIM_Tachometer 0  CIM_Fan 0\n"
+            "CIM_Tachometer 1  CIM_Fan 1\n");
+  EXPECT_EQ(List("CIM_PackageTempSensor", kProbes),
+            "\n"
+            "Antecedent\n"
+            "CIM_TemperatureSensor 0\n"
+            "CIM_TemperatureSensor 1\n"
+            "\n"
+            "The same in all of them:\n"
+            "  Dependent  VORN_Chassis The Box\n");
+  EXPECT_EQ(List("VORN_FanSensor", kProbes, {"--full"}),
+            "\n"
+            "  Antecedent  CIM_Tachometer 0\n"
+            "  Dependent   CIM_Fan 0\n"
+            "\n"
+            "  Antecedent  CIM_Tachometer 1\n"
+            "  Dependent   CIM_Fan 1\n");
+}
+
+// The provider puts names into references as they are, quotes and all.
+TEST_F(Tables, ShowAReferenceThatIsNoPathAsItIs) {
+  SetEnvironment("COLUMNS", "200");
+  EXPECT_EQ(List("CIM_PackageTempSensor", R"(
+      {"oid": 4, "type": "chassisDescription", "parents": [2], "fields": {"name": "\"Box\""}},
+      {"oid": 5, "type": "temperatureProbe", "parents": [2], "fields": {"name": "Inlet"}})"),
+            "\n"
+            "  Antecedent  CIM_TemperatureSensor 0\n"
+            "  Dependent   \\\\.\\root\\cimv2\\vorn:VORN_Chassis.CreationClassName="
+            "\"VORN_Chassis\",Tag=\"\"Box\"\"\n");
+}
+
+TEST_F(Tables, ShowBareNamesAsTheyAreAndASystemByTheOnlyKeyThatTellsIt) {
+  SetEnvironment("COLUMNS", "300");
+  const std::string block = List("VORN_AssociatedSystemPCData", R"(
+      {"oid": 5, "type": "powerConsumption", "parents": [2], "fields": {"name": "System Power"}})");
+  EXPECT_NE(block.find("\n  Antecedent  System Power\n  Dependent   VORN_SYSTEM "),
+            std::string::npos)
+      << block;
+  EXPECT_EQ(block.find("CVORN_System\n"), std::string::npos) << block;
+}
+
 TEST_F(Tables, GiveWayToBlocksWhereReferencesWouldBeCut) {
-  constexpr std::string_view kProbes = R"(
-      {"oid": 4, "type": "chassisDescription", "parents": [2], "fields": {"name": "Box"}},
-      {"oid": 5, "type": "temperatureProbe", "parents": [2], "fields": {"name": "Inlet"}},
-      {"oid": 6, "type": "temperatureProbe", "parents": [2], "fields": {"name": "Outlet"}})";
-  const std::string antecedent = R"(\\.\root\cimv2\vorn:CIM_TemperatureSensor.CreationClassName=)";
-  const std::string blocks = List("CIM_PackageTempSensor", kProbes);
-  EXPECT_TRUE(blocks.starts_with("\n  Antecedent  " + antecedent)) << blocks;
-  EXPECT_NE(blocks.find("\n\n  Antecedent  " + antecedent), std::string::npos) << blocks;
-  EXPECT_EQ(blocks.find("\u2026"), std::string::npos) << blocks;
-  SetEnvironment("COLUMNS", "400");
-  EXPECT_TRUE(List("CIM_PackageTempSensor", kProbes).starts_with("\nAntecedent\n" + antecedent));
+  SetEnvironment("COLUMNS", "26");
+  EXPECT_NE(List("VORN_FanSensor", kProbes)
+                .find("\n"
+                      "  Antecedent  CIM_Tachometer\n"
+                      "              0\n"),
+            std::string::npos);
+  SetEnvironment("COLUMNS", "27");
+  EXPECT_TRUE(List("VORN_FanSensor", kProbes).starts_with("\nAntecedent        Dependent\n"));
+}
+
+TEST_F(Tables, OfReferencesLeaveJsonAndCsvAsTheyAre) {
+  const std::string file = Write("store.json", StoreFile(kProbes));
+  const std::string path =
+      R"(\\\\.\\root\\cimv2\\vorn:CIM_Tachometer.CreationClassName=\"CIM_Tachometer\")";
+  const ToolRun json = Run({"list", "VORN_FanSensor", "--store", file, "--format", "json"});
+  EXPECT_NE(json.output.find("\"Antecedent\": \"" + path), std::string::npos) << json.output;
+  const ToolRun csv = Run({"list", "VORN_FanSensor", "--store", file, "--format", "csv"});
+  EXPECT_NE(csv.output.find(R"("\\.\root\cimv2\vorn:CIM_Tachometer.CreationClassName=)"),
+            std::string::npos)
+      << csv.output;
 }
 
 TEST_F(Tables, SayThatAClassHasNoInstances) {

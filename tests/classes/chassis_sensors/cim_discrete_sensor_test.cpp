@@ -119,6 +119,12 @@ TEST_F(CimDiscreteSensorTest, SensorTypeFollowsTheTypeOfTheObjectThatIsGot) {
   }
 }
 
+TEST_F(CimDiscreteSensorTest, AnObjectWithANumberInPlaceOfTheNameIsGotWithoutOne) {
+  store.Add(500, 40).U32(72, 0xFFFFFFF0);
+  EXPECT_EQ("<null>", Now("Name"));
+  EXPECT_EQ("Discrete Sensor", Now("OtherSensorTypeDescription"));
+}
+
 TEST_F(CimDiscreteSensorTest, ListedSensorsHaveTheTypeOfTheirListAndReadAsTheirOwn) {
   store.Add(500, 27).U16(20, 4).Ucs2(72, u"misfiled");
   store.List(2, 26, {500});

@@ -4,8 +4,8 @@
 #include <set>
 #include <vector>
 
-#include "core/com.h"
 #include "core/module.h"
+#include "platform/com.h"
 #include "tests/core/windows/loaded_module.h"
 #include "tests/support/fake_class.h"
 #include "tests/support/fake_services.h"

@@ -47,8 +47,8 @@ class PlatformPathParser : public HostObjectsTest {
     return answers.str();
   }
 
-  ComPtr<IWbemPath> theirs_;
-  ComPtr<IWbemPath> ours_;
+  Com<IWbemPath> theirs_;
+  Com<IWbemPath> ours_;
 };
 
 TEST_F(PlatformPathParser, AgreesOnPathsWithANamespace) {

@@ -47,14 +47,16 @@ class Streams : public ToolTest {
   }
   std::string Error() const { return ContentsOf(Folder().Path() / "error"); }
 
-  /// What a terminal of that width shows of the memory modules.
-  std::string OnTerminal(unsigned short width) const {
+  /// What a terminal of that width shows of the memory modules, or of another command.
+  std::string OnTerminal(unsigned short width,
+                         const std::vector<std::string>& arguments = {"list", "CIM_PhysicalMemory"},
+                         int status = 0) const {
     int terminal = -1;
     int line = -1;
     winsize size{};
     size.ws_col = width;
     EXPECT_EQ(openpty(&terminal, &line, nullptr, nullptr, &size), 0);
-    EXPECT_EQ(RunInto(line, {"list", "CIM_PhysicalMemory"}), 0);
+    EXPECT_EQ(RunInto(line, arguments), status);
     std::string text;
     std::array<char, 16384> buffer;
     fcntl(terminal, F_SETFL, O_NONBLOCK);
@@ -73,6 +75,18 @@ TEST_F(Streams, AFullDiskIsAnOutputFailure) {
   if (full < 0) GTEST_SKIP() << "there is no /dev/full here";
   for (const auto& arguments : {std::vector<std::string>{"classes"}, {"--help"}}) {
     EXPECT_EQ(RunInto(full, arguments), 5);
+    EXPECT_EQ(Error(), "tqcim: standard output: can't be written: No space left on device\n");
+  }
+  close(full);
+}
+
+TEST_F(Streams, AFullDiskIsNoVerdictOnTheSystem) {
+  const int full = open("/dev/full", O_WRONLY);
+  if (full < 0) GTEST_SKIP() << "there is no /dev/full here";
+  for (const auto& arguments : {std::vector<std::string>{"health"},
+                                {"health", "--format", "json"},
+                                {"health", "--store", "absent.json"}}) {
+    EXPECT_EQ(RunInto(full, arguments), 3);
     EXPECT_EQ(Error(), "tqcim: standard output: can't be written: No space left on device\n");
   }
   close(full);
@@ -104,6 +118,15 @@ TEST_F(Streams, ATerminalShowsStatusInColour) {
   EXPECT_NE(table.find("\n  1  Unknown  DIMM_A2          0002\n"), std::string::npos) << table;
   EXPECT_NE(table.find("\n  2  \x1B[31mError  \x1B[0m  DIMM_A3          0003\n"), std::string::npos)
       << table;
+}
+
+TEST_F(Streams, ATerminalShowsFaultsInColour) {
+  const std::string text = OnTerminal(80, {"health"}, 2);
+  EXPECT_NE(text.find("\nCIM_PhysicalMemory DIMM_A3: \x1B[31mError\x1B[0m\n"), std::string::npos)
+      << text;
+  SetEnvironment("NO_COLOR", "1");
+  EXPECT_NE(OnTerminal(80, {"health"}, 2).find("\nCIM_PhysicalMemory DIMM_A3: Error\n"),
+            std::string::npos);
 }
 
 TEST_F(Streams, ATerminalHasNoColourWhereTheUserOrTheTerminalWantsNone) {

@@ -1,4 +1,4 @@
-#include "core/com.h"
+#include "core/variant.h"
 
 #include "core/text.h"
 

@@ -1,0 +1,141 @@
+// The module loaded and unloaded, and when it says that it may be. In a program of its own: COM
+// holds on to a module that it loaded.
+#include <array>
+
+#include "platform/com.h"
+#include "tests/core/windows/loaded_module.h"
+
+namespace tqcim::testing {
+namespace {
+
+Com<IClassFactory> FactoryOf(const LoadedModule& module) {
+  CLSID clsid{};
+  CLSIDFromString(OLESTR("{5e3a9c17-4b2d-41f0-9a6e-2c7d81b0e4f3}"), &clsid);
+  Com<IClassFactory> factory;
+  EXPECT_EQ(S_OK, module.Export<HRESULT WINAPI(REFCLSID, REFIID, void**)>("DllGetClassObject")(
+                      clsid, IID_IClassFactory, factory.ReceiveVoid()));
+  return factory;
+}
+
+template <typename Interface>
+Com<Interface> ProviderOf(IClassFactory& factory, REFIID iid) {
+  Com<Interface> provider;
+  EXPECT_EQ(S_OK, factory.CreateInstance(nullptr, iid, provider.ReceiveVoid()));
+  return provider;
+}
+
+HRESULT CanUnload(const LoadedModule& module) {
+  return module.Export<HRESULT WINAPI()>("DllCanUnloadNow")();
+}
+
+TEST(ModuleLifetime, MayGoOnlyWithoutProviders) {
+  const LoadedModule module;
+  EXPECT_EQ(S_OK, CanUnload(module));
+  Com<IClassFactory> factory = FactoryOf(module);
+  // A factory is no provider.
+  EXPECT_EQ(S_OK, CanUnload(module));
+  auto first = ProviderOf<IWbemProviderInit>(*factory, IID_IWbemProviderInit);
+  EXPECT_EQ(S_FALSE, CanUnload(module));
+  auto second = ProviderOf<IWbemServices>(*factory, IID_IWbemServices);
+  first.Release();
+  EXPECT_EQ(S_FALSE, CanUnload(module));
+  Com<IUnknown> other;
+  EXPECT_EQ(S_OK, second->QueryInterface(IID_IUnknown, other.ReceiveVoid()));
+  second.Release();
+  EXPECT_EQ(S_FALSE, CanUnload(module));
+  other.Release();
+  EXPECT_EQ(S_OK, CanUnload(module));
+}
+
+TEST(ModuleLifetime, MayGoAfterProvidersThatWereRefused) {
+  const LoadedModule module;
+  const Com<IClassFactory> factory = FactoryOf(module);
+  void* object = nullptr;
+  EXPECT_EQ(E_NOINTERFACE, factory->CreateInstance(nullptr, IID_IWbemLocator, &object));
+  EXPECT_EQ(CLASS_E_NOAGGREGATION,
+            factory->CreateInstance(factory.get(), IID_IWbemServices, &object));
+  EXPECT_EQ(S_OK, CanUnload(module));
+}
+
+TEST(ModuleLifetime, MayGoOnlyWithoutLocks) {
+  const LoadedModule module;
+  const Com<IClassFactory> factory = FactoryOf(module);
+  EXPECT_EQ(S_OK, factory->LockServer(TRUE));
+  EXPECT_EQ(S_OK, factory->LockServer(TRUE));
+  EXPECT_EQ(S_FALSE, CanUnload(module));
+  auto provider = ProviderOf<IWbemServices>(*factory, IID_IWbemServices);
+  provider.Release();
+  factory->LockServer(FALSE);
+  EXPECT_EQ(S_FALSE, CanUnload(module));
+  factory->LockServer(FALSE);
+  EXPECT_EQ(S_OK, CanUnload(module));
+}
+
+/// What a process holds.
+struct Holdings {
+  size_t handles = 0;
+  size_t blocks = 0;
+  size_t bytes = 0;
+};
+
+/// Handles are counted one by one: Wine counts none when it is asked for their number.
+size_t CountHandles() {
+  constexpr uintptr_t kBeyondAnyHandle = 0x8000;
+  size_t count = 0;
+  for (uintptr_t handle = 4; handle < kBeyondAnyHandle; handle += 4) {
+    DWORD flags = 0;
+    if (GetHandleInformation(reinterpret_cast<HANDLE>(handle), &flags)) ++count;
+  }
+  return count;
+}
+
+Holdings Measure() {
+  Holdings holdings;
+  std::array<HANDLE, 64> heaps{};
+  const DWORD count = GetProcessHeaps(heaps.size(), heaps.data());
+  for (DWORD i = 0; i < count; ++i) {
+    PROCESS_HEAP_ENTRY entry{};
+    HeapLock(heaps[i]);
+    while (HeapWalk(heaps[i], &entry)) {
+      if (!(entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)) continue;
+      ++holdings.blocks;
+      holdings.bytes += entry.cbData;
+    }
+    HeapUnlock(heaps[i]);
+  }
+  holdings.handles = CountHandles();
+  return holdings;
+}
+
+/// Loads the module, makes a provider, asks it for a class that there isn't (an exception, inside),
+/// and unloads the module.
+void LiveOnce() {
+  {
+    const LoadedModule module;
+    {
+      const Com<IClassFactory> factory = FactoryOf(module);
+      const auto provider = ProviderOf<IWbemServices>(*factory, IID_IWbemServices);
+      const Bstr name(OLESTR("No_SuchClass"));
+      EXPECT_EQ(WBEM_E_FAILED, provider->CreateInstanceEnumAsync(name.get(), 0, nullptr, nullptr));
+      ASSERT_EQ(S_FALSE, CanUnload(module));
+    }
+    ASSERT_EQ(S_OK, CanUnload(module));
+  }
+  ASSERT_EQ(nullptr, GetModuleHandleA("tqcim64.dll"));
+}
+
+TEST(ModuleLifetime, AThousandLoadsLeaveNothingBehind) {
+  constexpr size_t kLoads = 1000;
+  for (int i = 0; i < 50; ++i) LiveOnce();
+  const Holdings before = Measure();
+  for (size_t i = 0; i < kLoads; ++i) LiveOnce();
+  const Holdings after = Measure();
+  EXPECT_EQ(before.handles, after.handles);
+  // One handler stays each time, of a class that is registered twice: an object without any fields.
+  constexpr size_t kHandlerSize = sizeof(void*);
+  EXPECT_LE(after.blocks, before.blocks + kLoads + 20);
+  EXPECT_LE(after.bytes, before.bytes + kLoads * kHandlerSize + 16384);
+}
+
+}  // namespace
+}  // namespace tqcim::testing

@@ -1,0 +1,49 @@
+#include "tools/provider.h"
+
+#include <utility>
+
+#include "host/results.h"
+#include "tools/console.h"
+
+namespace tqcim::tools {
+
+using host::HostError;
+using host::ManagementHost;
+
+ExitStatus StatusOf(HostError::Kind kind) {
+  switch (kind) {
+    case HostError::Kind::kUnknownClass:
+      return ExitStatus::kNotFound;
+    case HostError::Kind::kBadPath:
+      return ExitStatus::kUsage;
+    default:
+      return ExitStatus::kProviderFailed;
+  }
+}
+
+std::unique_ptr<ManagementHost> OpenHost() {
+  UseOwnLibraries();
+  try {
+    return ManagementHost::Open();
+  } catch (const HostError& error) {
+    throw Failure(StatusOf(error.kind()), error.what());
+  }
+}
+
+bool Answered(const host::Outcome& outcome) {
+  return outcome.ok() || outcome.result == host::kNotFound;
+}
+
+std::string FailureText(const std::string& class_name, const host::Outcome& outcome) {
+  return class_name + ": the provider answered " + outcome.Text();
+}
+
+Answer Enumerate(ManagementHost& host, const std::string& class_name) {
+  Answer answer;
+  answer.outcome = host.Enumerate(class_name, [&](host::Instance instance) {
+    answer.instances.push_back(std::move(instance));
+  });
+  return answer;
+}
+
+}  // namespace tqcim::tools
