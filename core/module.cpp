@@ -15,12 +15,11 @@ namespace {
 bool attached = false;
 }
 
-const CLSID& ProviderClsid() {
-  static const CLSID clsid = [] {
-    CLSID converted{};
-    CLSIDFromString(OLESTR("{5e3a9c17-4b2d-41f0-9a6e-2c7d81b0e4f3}"), &converted);
-    return converted;
-  }();
+CLSID ProviderClsid() {
+  // Converted each time: a static kept by the compiler's guard would leave two handles behind with
+  // each unloading of the Windows module.
+  CLSID clsid{};
+  CLSIDFromString(OLESTR("{5e3a9c17-4b2d-41f0-9a6e-2c7d81b0e4f3}"), &clsid);
   return clsid;
 }
 

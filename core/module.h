@@ -13,7 +13,7 @@ extern std::atomic<LONG> objectCounter;
 extern std::atomic<LONG> lockCounter;
 
 /// The provider's class identifier.
-const CLSID& ProviderClsid();
+CLSID ProviderClsid();
 
 /// Reads the computer's name. False without one: the module then refuses to load or, where a module
 /// can't refuse, serves no class.

@@ -50,6 +50,24 @@ std::string SharedProvider(const Schema& schema) {
                   "the provider module " + reason + ": " + ResultText(result));
 }
 
+Com<IClassFactory> FactoryOf(const Module& module, REFCLSID clsid) {
+  Com<IClassFactory> factory;
+  const HRESULT result = module.GetClassObject(clsid, IID_IClassFactory, factory.ReceiveVoid());
+  if (FAILED(result)) RefuseModule("gives no class factory", result);
+  return factory;
+}
+
+Com<IClassFactory> RegisteredFactory(REFCLSID clsid) {
+  Com<IClassFactory> factory;
+  const HRESULT result = CoGetClassObject(clsid, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory,
+                                          factory.ReceiveVoid());
+  if (FAILED(result)) {
+    RefuseModule("is not registered with COM, or can't be loaded from where it is registered",
+                 result);
+  }
+  return factory;
+}
+
 /// Initialises the provider; its status comes through the sink.
 void Initialise(IWbemProviderInit& init, Namespace& name_space) {
   const Com<InitSink> sink(new InitSink);
@@ -83,13 +101,14 @@ ProviderRegistration FindRegistration(const Schema& schema) {
   return registration;
 }
 
-ActiveProvider::ActiveProvider(const std::filesystem::path& module,
-                               const ProviderRegistration& registration, Namespace& name_space)
-    : module_(module) {
-  HRESULT result =
-      module_.GetClassObject(registration.clsid, IID_IClassFactory, factory_.ReceiveVoid());
-  if (FAILED(result)) RefuseModule("gives no class factory", result);
-  result = factory_->CreateInstance(nullptr, IID_IWbemProviderInit, init_.ReceiveVoid());
+ActiveProvider::ActiveProvider(const std::optional<std::filesystem::path>& module,
+                               const ProviderRegistration& registration, Namespace& name_space) {
+  if (module) {
+    factory_ = FactoryOf(module_.emplace(*module), registration.clsid);
+  } else {
+    factory_ = RegisteredFactory(registration.clsid);
+  }
+  HRESULT result = factory_->CreateInstance(nullptr, IID_IWbemProviderInit, init_.ReceiveVoid());
   if (FAILED(result)) RefuseModule("makes no provider", result);
   Initialise(*init_, name_space);
   result = init_->QueryInterface(IID_IWbemServices, services_.ReceiveVoid());

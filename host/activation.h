@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "host/com.h"
@@ -25,14 +26,15 @@ ProviderRegistration FindRegistration(const Schema& schema);
 /// goes back in the opposite order.
 class ActiveProvider {
  public:
-  /// Throws HostError (kModule).
-  ActiveProvider(const std::filesystem::path& module, const ProviderRegistration& registration,
-                 Namespace& name_space);
+  /// Without a module COM loads the one that its registry names for the class, and keeps it. Throws
+  /// HostError (kModule).
+  ActiveProvider(const std::optional<std::filesystem::path>& module,
+                 const ProviderRegistration& registration, Namespace& name_space);
 
   IWbemServices& services() const { return *services_; }
 
  private:
-  Module module_;
+  std::optional<Module> module_;
   Com<IClassFactory> factory_;
   Com<IWbemProviderInit> init_;
   Com<IWbemServices> services_;

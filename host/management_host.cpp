@@ -1,5 +1,7 @@
 #include "host/management_host.h"
 
+#include <optional>
+
 #include "host/activation.h"
 #include "host/class_registration.h"
 #include "host/object_path.h"
@@ -57,7 +59,7 @@ struct ManagementHost::Parts {
   ActiveProvider provider;
 
   explicit Parts(std::shared_ptr<const Schema> schema, const ProviderRegistration& registration,
-                 const std::filesystem::path& module)
+                 const std::optional<std::filesystem::path>& module)
       : name_space(std::make_shared<Namespace>(std::move(schema))),
         locator(CLSID_WbemLocator, MakeLocator()),
         administrative_locator(CLSID_WbemAdministrativeLocator, MakeLocator()),
@@ -89,8 +91,10 @@ ManagementHost::~ManagementHost() = default;
 std::unique_ptr<ManagementHost> ManagementHost::Open(const HostOptions& options) {
   auto schema = LoadSchema(options.schema_folder);
   const ProviderRegistration registration = FindRegistration(*schema);
-  const std::filesystem::path module =
-      options.module.empty() ? ProgramFolder() / kModuleName : options.module;
+  std::optional<std::filesystem::path> module;
+  if (!options.registered) {
+    module = options.module.empty() ? ProgramFolder() / kModuleName : options.module;
+  }
   return std::unique_ptr<ManagementHost>(
       new ManagementHost(std::make_unique<Parts>(std::move(schema), registration, module)));
 }

@@ -22,6 +22,9 @@ struct HostOptions {
   std::filesystem::path module;
   /// A folder of *.mof files. Empty: the schema that the program carries.
   std::filesystem::path schema_folder;
+  /// The provider module is the one that COM's registry names for its class, whatever `module`
+  /// says.
+  bool registered = false;
 };
 
 /// What went wrong before the provider was asked, in one sentence for people (`what()`).

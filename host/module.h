@@ -13,6 +13,9 @@ std::filesystem::path ProgramFolder();
 /// The file name that the provider module has on this platform.
 extern const char* const kModuleName;
 
+/// Whether this platform's COM has a registry that tells the module of a class.
+extern const bool kHasComRegistry;
+
 /// A loaded module with the two functions of a COM server.
 class Module {
  public:

@@ -6,7 +6,9 @@
 #include <optional>
 #include <vector>
 
+#include "host/module.h"
 #include "tools/failure.h"
+#include "tools/provider.h"
 
 namespace tqcim::tools {
 namespace {
@@ -160,6 +162,17 @@ CLI::Option* AddOutputOption(CLI::App& command, std::string& output, const char*
       ->option_text("FILE");
 }
 
+void AddRegisteredOption(CLI::App& app) {
+  const auto take = [] {
+    if (!host::kHasComRegistry) {
+      throw CLI::ValidationError("--registered", "COM registration exists on Windows only");
+    }
+    UseRegisteredProvider();
+  };
+  app.add_flag_callback("--registered", take, "the provider registered with COM (on Windows)")
+      ->option_text(" ");
+}
+
 CLI::App* Add(CLI::App& parent, const char* name, const char* description, const char* footer) {
   CLI::App* command = parent.add_subcommand(name, description);
   command->footer(footer);
@@ -177,6 +190,7 @@ class CommandLine {
     app_.get_version_ptr()->description("print the version");
     app_.get_formatter()->column_width(26);
     app_.require_subcommand(1);
+    AddRegisteredOption(app_);
     AddShowCommands();
     AddStoreCommands();
   }

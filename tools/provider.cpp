@@ -10,6 +10,12 @@ namespace tqcim::tools {
 using host::HostError;
 using host::ManagementHost;
 
+namespace {
+
+bool registered_provider = false;
+
+}  // namespace
+
 ExitStatus StatusOf(HostError::Kind kind) {
   switch (kind) {
     case HostError::Kind::kUnknownClass:
@@ -21,10 +27,15 @@ ExitStatus StatusOf(HostError::Kind kind) {
   }
 }
 
+void UseRegisteredProvider() {
+  registered_provider = true;
+}
+
 std::unique_ptr<ManagementHost> OpenHost() {
   UseOwnLibraries();
   try {
-    return ManagementHost::Open();
+    return ManagementHost::Open(
+        {.module = {}, .schema_folder = {}, .registered = registered_provider});
   } catch (const HostError& error) {
     throw Failure(StatusOf(error.kind()), error.what());
   }

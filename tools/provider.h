@@ -13,7 +13,10 @@ namespace tqcim::tools {
 /// The exit status that stands for a failure of the host.
 ExitStatus StatusOf(host::HostError::Kind kind);
 
-/// Activates the provider beside the program, over the source in service. Throws Failure.
+/// From here on the provider is the one that COM's registry names, not the one beside the program.
+void UseRegisteredProvider();
+
+/// Activates the provider, over the source in service. Throws Failure.
 std::unique_ptr<host::ManagementHost> OpenHost();
 
 /// Whether the provider answered. "Not found" is an answer, too: there is nothing.

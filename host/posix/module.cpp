@@ -18,6 +18,7 @@ void* Function(void* module, const char* name) {
 }  // namespace
 
 const char* const kModuleName = "libtqcim64.so";
+const bool kHasComRegistry = false;
 
 std::filesystem::path ProgramFolder() {
   return std::filesystem::read_symlink("/proc/self/exe").parent_path();

@@ -22,6 +22,7 @@ FARPROC Function(HMODULE module, const std::filesystem::path& file, const char* 
 }  // namespace
 
 const char* const kModuleName = "tqcim64.dll";
+const bool kHasComRegistry = true;
 
 std::filesystem::path ProgramFolder() {
   std::wstring name(MAX_PATH, L'\0');

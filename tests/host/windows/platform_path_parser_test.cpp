@@ -12,16 +12,14 @@ class PlatformPathParser : public HostObjectsTest {
  protected:
   PlatformPathParser() { EXPECT_EQ(S_OK, CoInitializeEx(nullptr, COINIT_MULTITHREADED)); }
   ~PlatformPathParser() override {
-    theirs_.reset();
-    ours_.reset();
+    theirs_.Release();
+    ours_.Release();
     CoUninitialize();
   }
   void SetUp() override {
-    void* object = nullptr;
     ASSERT_EQ(S_OK, CoCreateInstance(CLSID_WbemDefPath, nullptr, CLSCTX_INPROC_SERVER,
-                                     IID_IWbemPath, &object));
-    theirs_.reset(static_cast<IWbemPath*>(object));
-    ours_.reset(new PathObject);
+                                     IID_IWbemPath, theirs_.ReceiveVoid()));
+    ours_ = Com<IWbemPath>(new PathObject);
   }
 
   static std::string Answers(IWbemPath& path) {
