@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "tests/core/failing_new.h"
+#include "tests/support/fault.h"
 
 namespace tqcim::testing {
 namespace {
@@ -43,7 +43,7 @@ TEST(ClassRegistry, TheHandlerOfANameRegisteredTwiceIsOne) {
 }
 
 TEST(ClassRegistry, AHandlerThatFindsNoMemoryIsNull) {
-  const FailingNew failing;
+  const Fault noMemory(FaultKind::kAllocations, 0);
   EXPECT_EQ(nullptr, kRegisteredClasses[0].makeHandler());
 }
 

@@ -1,6 +1,6 @@
 #include "core/module.h"
-#include "tests/core/failing_new.h"
 #include "tests/core/provider_fixture.h"
+#include "tests/support/fault.h"
 
 namespace tqcim::testing {
 namespace {
@@ -47,7 +47,7 @@ TEST_F(EntryPointsTest, AnInterfaceThatTheFactoryLacksIsRefused) {
 }
 
 TEST_F(EntryPointsTest, AFactoryThatFindsNoMemoryIsRefused) {
-  const FailingNew failing;
+  const Fault noMemory(FaultKind::kAllocations, 0);
   EXPECT_EQ(Hr(0x8007000E),
             DllGetClassObject(ClsidOf(kProviderClsidText), IID_IClassFactory, &object));
 }
@@ -99,7 +99,7 @@ TEST_F(EntryPointsTest, AProviderThatLacksTheInterfaceIsDestroyed) {
 
 TEST_F(EntryPointsTest, AProviderThatFindsNoMemoryIsRefused) {
   const auto factory = Factory();
-  const FailingNew failing;
+  const Fault noMemory(FaultKind::kAllocations, 0);
   EXPECT_EQ(Hr(0x8007000E), factory->CreateInstance(nullptr, IID_IWbemServices, &object));
   EXPECT_EQ(nullptr, object);
 }
