@@ -11,6 +11,14 @@ endif()
 if(WIN32)
   # The modules and programs import nothing but system libraries.
   add_link_options(-static -static-libgcc -static-libstdc++)
+  # The same sources make the same bytes.
+  add_link_options(-Wl,--no-insert-timestamp)
 else()
   add_link_options(-Wl,--no-undefined)
+  if(CMAKE_BUILD_TYPE STREQUAL "Release")
+    # Hardened as Debian builds its packages (hardening=+all), and free of the build's own paths.
+    add_compile_options(-fstack-protector-strong -Wformat -Werror=format-security
+                        -D_FORTIFY_SOURCE=2 -Wdate-time -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+    add_link_options(-Wl,-z,relro,-z,now)
+  endif()
 endif()

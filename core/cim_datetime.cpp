@@ -1,6 +1,10 @@
 #include "core/cim_datetime.h"
 
+#include <array>
+#include <atomic>
+#include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 #include "platform/local_time.h"
@@ -19,14 +23,63 @@ bool IsCalendarTime(const std::tm& time) {
          Between(0, time.tm_min, 59) && Between(0, time.tm_sec, 60);
 }
 
-/// The offset of local time from UTC in minutes, at the present moment. The daylight-saving hour is
-/// no part of it: both times are turned back as standard time where the platform does so.
-double UtcOffsetMinutes() {
-  const std::time_t now = std::time(nullptr);
+/// The offset of local time from UTC in minutes, at a moment. The daylight-saving hour is no part
+/// of it: both times are turned back as standard time where the platform does so.
+double UtcOffsetMinutes(std::time_t now) {
   std::tm local{};
   std::tm utc{};
   if (!LocalTime(now, local) || !UtcTime(now, utc)) return 0.0;
   return std::difftime(std::mktime(&local), std::mktime(&utc)) / 60.0;
+}
+
+/// The offset as the dates have it: at most four characters, the number cut where they end. The
+/// fifth is the terminator.
+using OffsetText = std::array<char, 5>;
+
+OffsetText OffsetTextAt(std::time_t now) {
+  OffsetText text{};
+  const double minutes = UtcOffsetMinutes(now);
+  std::snprintf(text.data(), text.size(), minutes < 0 ? "%04f" : "+%03f", minutes);
+  return text;
+}
+
+/// Tells one second and time zone from another. Never 0.
+uint32_t MomentTag(std::time_t now) {
+  // FNV-1a.
+  uint64_t hash = 0xCBF29CE484222325;
+  const auto add = [&](uint64_t byte) { hash = (hash ^ byte) * 0x100000001B3; };
+  for (size_t i = 0; i < sizeof now; ++i) add(static_cast<uint64_t>(now) >> 8 * i & 0xFF);
+  if (const char* zone = std::getenv("TZ")) {
+    while (*zone) add(static_cast<unsigned char>(*zone++));
+  }
+  return static_cast<uint32_t>(hash >> 32) | 1;
+}
+
+/// The offset of the present moment. To ask the platform costs more than all else of an instance,
+/// so that the last answer serves for the rest of its second: a log has thousands of dates.
+OffsetText CurrentOffsetText() {
+  // The tag above, the four characters below.
+  static constinit std::atomic<uint64_t> last{0};
+  const std::time_t now = std::time(nullptr);
+  const uint32_t tag = MomentTag(now);
+  OffsetText text{};
+  const uint64_t known = last.load(std::memory_order_relaxed);
+  if (known >> 32 == tag) {
+    std::memcpy(text.data(), &known, 4);
+    return text;
+  }
+  ReadTimeZone();
+  text = OffsetTextAt(now);
+  uint64_t answer = 0;
+  std::memcpy(&answer, text.data(), 4);
+  last.store(uint64_t{tag} << 32 | answer, std::memory_order_relaxed);
+  return text;
+}
+
+/// Writes a number that is not negative at its full width. The end of what was written.
+char* PutDecimal(char* text, int number, int width) {
+  for (int i = width - 1; i >= 0; --i, number /= 10) text[i] = static_cast<char>('0' + number % 10);
+  return text + width;
 }
 
 }  // namespace
@@ -36,15 +89,14 @@ SupportText FormatCimDateTime(const std::tm* time) {
   if (!IsCalendarTime(*time)) return {};
   SupportText text(static_cast<char*>(SMAllocMem(kTextSize)));
   if (!text) return {};
-  ReadTimeZone();
-  char date[80];
-  std::snprintf(date, sizeof date, "%04d%02d%02d%02d%02d%02d.000000", time->tm_year + 1900,
-                time->tm_mon + 1, time->tm_mday, time->tm_hour, time->tm_min, time->tm_sec);
-  const double minutes = UtcOffsetMinutes();
-  char offset[5] = {};
-  std::snprintf(offset, sizeof offset, minutes < 0 ? "%04f" : "+%03f", minutes);
-  std::strcpy(text.get(), date);
-  std::strcat(text.get(), offset);
+  char* end = text.get();
+  end = PutDecimal(end, time->tm_year + 1900, 4);
+  end = PutDecimal(end, time->tm_mon + 1, 2);
+  for (const int part : {time->tm_mday, time->tm_hour, time->tm_min, time->tm_sec}) {
+    end = PutDecimal(end, part, 2);
+  }
+  std::strcpy(end, ".000000");
+  std::strcat(end, CurrentOffsetText().data());
   return text;
 }
 

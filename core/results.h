@@ -8,6 +8,5 @@ namespace tqcim {
 
 inline constexpr auto kFailed = static_cast<HRESULT>(WBEM_E_FAILED);
 inline constexpr auto kNotFound = static_cast<HRESULT>(WBEM_E_NOT_FOUND);
-inline constexpr auto kNotSupported = static_cast<HRESULT>(WBEM_E_NOT_SUPPORTED);
 
 }  // namespace tqcim

@@ -79,7 +79,7 @@ ClassObject::ClassObject(std::shared_ptr<const Schema> schema, const ClassDefini
 }
 
 Com<ClassObject> ClassObject::Definition(std::shared_ptr<const Schema> schema,
-                                            const ClassDefinition& definition) {
+                                         const ClassDefinition& definition) {
   return Com<ClassObject>(new ClassObject(std::move(schema), definition, Kind::kDefinition));
 }
 

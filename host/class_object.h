@@ -9,52 +9,18 @@
 #include "host/instance.h"
 #include "host/results.h"
 #include "host/schema.h"
+#include "platform/refusing_interfaces.h"
 
 namespace tqcim::host {
 
-/// The interface of class definitions and instances with everything refused that needs qualifiers,
-/// methods or the writing of classes: WBEM_E_NOT_SUPPORTED.
-class RefusingClassObject : public ComObject<IWbemClassObject, IID_IWbemClassObject> {
- public:
-  HRESULT STDMETHODCALLTYPE GetQualifierSet(IWbemQualifierSet**) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE Delete(LPCWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE GetPropertyQualifierSet(LPCWSTR, IWbemQualifierSet**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE GetObjectText(LONG, BSTR*) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE SpawnDerivedClass(LONG, IWbemClassObject**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE CompareTo(LONG, IWbemClassObject*) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE InheritsFrom(LPCWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE GetMethod(LPCWSTR, LONG, IWbemClassObject**,
-                                      IWbemClassObject**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE PutMethod(LPCWSTR, LONG, IWbemClassObject*,
-                                      IWbemClassObject*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE DeleteMethod(LPCWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE BeginMethodEnumeration(LONG) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE NextMethod(LONG, BSTR*, IWbemClassObject**,
-                                       IWbemClassObject**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE EndMethodEnumeration() override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE GetMethodQualifierSet(LPCWSTR, IWbemQualifierSet**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE GetMethodOrigin(LPCWSTR, BSTR*) override { return kNotSupported; }
-};
-
 /// A class definition, or an instance of one. Keeps the schema alive. An object belongs to one
 /// thread at a time.
-class ClassObject final : public RefusingClassObject {
+class ClassObject final
+    : public RefusingClassObject<ComObject<IWbemClassObject, IID_IWbemClassObject>> {
  public:
   /// The definition of a class of the schema.
   static Com<ClassObject> Definition(std::shared_ptr<const Schema> schema,
-                                        const ClassDefinition& definition);
+                                     const ClassDefinition& definition);
 
   /// The host's own object behind an interface; null if another implementation stands there. The
   /// reference is the caller's.

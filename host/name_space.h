@@ -8,6 +8,7 @@
 #include "host/object_path.h"
 #include "host/results.h"
 #include "host/schema.h"
+#include "platform/refusing_interfaces.h"
 
 namespace tqcim::host {
 
@@ -21,100 +22,11 @@ bool IsInNamespace(const ObjectPath& path, std::string_view computer_name);
 /// The name of the computer.
 std::string ComputerName();
 
-/// A namespace that refuses every operation: WBEM_E_NOT_SUPPORTED.
-class RefusingServices : public IWbemServices {
- public:
-  HRESULT STDMETHODCALLTYPE OpenNamespace(BSTR, LONG, IWbemContext*, IWbemServices**,
-                                          IWbemCallResult**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE CancelAsyncCall(IWbemObjectSink*) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE QueryObjectSink(LONG, IWbemObjectSink**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE GetObject(BSTR, LONG, IWbemContext*, IWbemClassObject**,
-                                      IWbemCallResult**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE GetObjectAsync(BSTR, LONG, IWbemContext*, IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE PutClass(IWbemClassObject*, LONG, IWbemContext*,
-                                     IWbemCallResult**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE PutClassAsync(IWbemClassObject*, LONG, IWbemContext*,
-                                          IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE DeleteClass(BSTR, LONG, IWbemContext*, IWbemCallResult**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE DeleteClassAsync(BSTR, LONG, IWbemContext*, IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE CreateClassEnum(BSTR, LONG, IWbemContext*,
-                                            IEnumWbemClassObject**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE CreateClassEnumAsync(BSTR, LONG, IWbemContext*,
-                                                 IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE PutInstance(IWbemClassObject*, LONG, IWbemContext*,
-                                        IWbemCallResult**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE PutInstanceAsync(IWbemClassObject*, LONG, IWbemContext*,
-                                             IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE DeleteInstance(BSTR, LONG, IWbemContext*, IWbemCallResult**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE DeleteInstanceAsync(BSTR, LONG, IWbemContext*,
-                                                IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE CreateInstanceEnum(BSTR, LONG, IWbemContext*,
-                                               IEnumWbemClassObject**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE CreateInstanceEnumAsync(BSTR, LONG, IWbemContext*,
-                                                    IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE ExecQuery(BSTR, BSTR, LONG, IWbemContext*,
-                                      IEnumWbemClassObject**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE ExecQueryAsync(BSTR, BSTR, LONG, IWbemContext*,
-                                           IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE ExecNotificationQuery(BSTR, BSTR, LONG, IWbemContext*,
-                                                  IEnumWbemClassObject**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE ExecNotificationQueryAsync(BSTR, BSTR, LONG, IWbemContext*,
-                                                       IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE ExecMethod(BSTR, BSTR, LONG, IWbemContext*, IWbemClassObject*,
-                                       IWbemClassObject**, IWbemCallResult**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE ExecMethodAsync(BSTR, BSTR, LONG, IWbemContext*, IWbemClassObject*,
-                                            IWbemObjectSink*) override {
-    return kNotSupported;
-  }
-};
-
 /// The namespace: GetObject gives class definitions, all else is refused.
 ///
 /// The provider keeps its connection for the life of the process and never gives it back, so COM
 /// references don't keep the namespace: its owner does, and counts them.
-class Namespace final : public RefusingServices {
+class Namespace final : public RefusingServices<IWbemServices> {
  public:
   explicit Namespace(std::shared_ptr<const Schema> schema) : schema_(std::move(schema)) {}
 

@@ -1,5 +1,6 @@
 #include "host/object_path.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "host/text.h"
@@ -20,6 +21,9 @@ bool IsNameStart(char c) {
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
+
+/// Where the first name of a path ends.
+constexpr std::string_view kNameEnds = "\\/:.=\"' ";
 
 class Parser {
  public:
@@ -51,30 +55,32 @@ class Parser {
 
   /// A path that starts with a name starts with a namespace if a slash or a colon follows the name.
   bool StartsWithNamespace() const {
-    const size_t end = text_.find_first_of("\\/:.=\"' ");
+    const size_t end = text_.find_first_of(kNameEnds);
     return end != std::string_view::npos && (IsSlash(text_[end]) || text_[end] == ':');
   }
 
   void Server() {
     position_ += 2;
-    path_.server = Part("the name of a server");
+    path_.server = Part("\\/:", "the name of a server");
     if (!IsSlash(Peek())) Refuse("a namespace should follow the server");
   }
 
   void Namespaces() {
     if (IsSlash(Peek())) ++position_;
     do {
-      path_.namespaces.push_back(Part("the name of a namespace"));
+      path_.namespaces.push_back(Part(kNameEnds, "the name of a namespace"));
       if (TakeIf(':')) {
         if (AtEnd()) Refuse("a class should follow the colon");
         return;
       }
     } while (IsSlash(Peek()) && ++position_ > 0);
+    // Without its server the path would be read as that of a class with keys.
+    if (!AtEnd()) Refuse("a namespace can't have this character in its name");
   }
 
-  std::string Part(const std::string& what) {
+  std::string Part(std::string_view ends, const std::string& what) {
     const size_t start = position_;
-    while (!AtEnd() && !IsSlash(Peek()) && Peek() != ':') ++position_;
+    position_ = std::min(text_.find_first_of(ends, start), text_.size());
     if (position_ == start) Refuse(what + " should stand here");
     return std::string(text_.substr(start, position_ - start));
   }
@@ -148,7 +154,7 @@ class Parser {
 
   Scalar Number() {
     const size_t start = position_;
-    if (Peek() == '+') ++position_;
+    if (Peek() == '+' && IsDigit(Peek(1))) ++position_;
     const char* first = text_.data() + position_;
     const char* last = text_.data() + text_.size();
     int64_t number = 0;

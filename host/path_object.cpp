@@ -33,24 +33,7 @@ CimType ApparentType(const Scalar& value) {
   return small ? CimType::kSint32 : CimType::kSint64;
 }
 
-/// A key list with everything refused that changes it: WBEM_E_NOT_SUPPORTED.
-class RefusingKeyList : public ComObject<IWbemPathKeyList, IID_IWbemPathKeyList> {
- public:
-  HRESULT STDMETHODCALLTYPE SetKey(LPCWSTR, ULONG, ULONG, LPVOID) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE SetKey2(LPCWSTR, ULONG, ULONG, VARIANT*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE GetKey(ULONG, ULONG, ULONG*, LPWSTR, ULONG*, LPVOID, ULONG*) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE RemoveKey(LPCWSTR, ULONG) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE RemoveAllKeys(ULONG) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE MakeSingleton(boolean) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE GetInfo(ULONG, ULONGLONG*) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE GetText(LONG, ULONG*, LPWSTR) override { return kNotSupported; }
-};
-
-class KeyList final : public RefusingKeyList {
+class KeyList final : public RefusingKeyList<ComObject<IWbemPathKeyList, IID_IWbemPathKeyList>> {
  public:
   explicit KeyList(std::vector<PathKey> keys) : keys_(std::move(keys)) {}
 

@@ -6,39 +6,14 @@
 #include "host/com.h"
 #include "host/object_path.h"
 #include "host/results.h"
+#include "platform/refusing_interfaces.h"
 
 namespace tqcim::host {
-
-/// A path with everything refused but the reading of texts: WBEM_E_NOT_SUPPORTED, FALSE.
-class RefusingPath : public ComObject<IWbemPath, IID_IWbemPath> {
- public:
-  HRESULT STDMETHODCALLTYPE GetInfo(ULONG, ULONGLONG*) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE SetServer(LPCWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE SetNamespaceAt(ULONG, LPCWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE RemoveNamespaceAt(ULONG) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE RemoveAllNamespaces() override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE GetScopeCount(ULONG*) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE SetScope(ULONG, LPWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE SetScopeFromText(ULONG, LPWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE GetScope(ULONG, ULONG*, LPWSTR, IWbemPathKeyList**) override {
-    return kNotSupported;
-  }
-  HRESULT STDMETHODCALLTYPE GetScopeAsText(ULONG, ULONG*, LPWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE RemoveScope(ULONG) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE RemoveAllScopes() override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE SetClassName(LPCWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE CreateClassPart(LONG, LPCWSTR) override { return kNotSupported; }
-  HRESULT STDMETHODCALLTYPE DeleteClassPart(LONG) override { return kNotSupported; }
-  BOOL STDMETHODCALLTYPE IsRelative(LPWSTR, LPWSTR) override { return FALSE; }
-  BOOL STDMETHODCALLTYPE IsRelativeOrChild(LPWSTR, LPWSTR, LONG) override { return FALSE; }
-  BOOL STDMETHODCALLTYPE IsLocal(LPCWSTR) override { return FALSE; }
-  BOOL STDMETHODCALLTYPE IsSameClassName(LPCWSTR) override { return FALSE; }
-};
 
 /// The reading half of the parser. Lengths count characters with the terminator: a null buffer asks
 /// for the length, WBEM_E_BUFFER_TOO_SMALL leaves it behind. Texts that are asked for before a
 /// path was set, or that it doesn't have, give WBEM_E_INVALID_OBJECT_PATH.
-class PathObject final : public RefusingPath {
+class PathObject final : public RefusingPath<ComObject<IWbemPath, IID_IWbemPath>> {
  public:
   /// `mode` has to be WBEMPATH_CREATE_ACCEPT_ALL. WBEM_E_INVALID_OBJECT_PATH for a text that can't
   /// be read, which leaves no path behind; an empty text succeeds and leaves none behind either.

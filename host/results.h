@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "platform/wmi.h"
+#include "platform/refusing_interfaces.h"
 
 namespace tqcim::host {
 
@@ -14,7 +14,6 @@ inline constexpr auto kProviderFailure = static_cast<HRESULT>(WBEM_E_PROVIDER_FA
 inline constexpr auto kTypeMismatch = static_cast<HRESULT>(WBEM_E_TYPE_MISMATCH);
 inline constexpr auto kOutOfMemory = static_cast<HRESULT>(WBEM_E_OUT_OF_MEMORY);
 inline constexpr auto kInvalidParameter = static_cast<HRESULT>(WBEM_E_INVALID_PARAMETER);
-inline constexpr auto kNotSupported = static_cast<HRESULT>(WBEM_E_NOT_SUPPORTED);
 inline constexpr auto kInvalidNamespace = static_cast<HRESULT>(WBEM_E_INVALID_NAMESPACE);
 inline constexpr auto kInvalidObject = static_cast<HRESULT>(WBEM_E_INVALID_OBJECT);
 inline constexpr auto kUnexpected = static_cast<HRESULT>(WBEM_E_UNEXPECTED);

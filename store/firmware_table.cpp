@@ -16,7 +16,7 @@ namespace {
 constexpr const char* kEntryPointName = "smbios_entry_point";
 constexpr const char* kTableName = "DMI";
 
-smbios::Bytes BytesOf(const std::string& contents) {
+smbios::Bytes BytesOf(std::string_view contents) {
   return {reinterpret_cast<const uint8_t*>(contents.data()), contents.size()};
 }
 
@@ -34,18 +34,6 @@ std::unique_ptr<Snapshot> SnapshotOfTable(smbios::Bytes available,
                          std::to_string(available.size()));
   }
   return smbios::SnapshotOf(available, entryPoint, file, offset, std::move(builder));
-}
-
-std::unique_ptr<Snapshot> LoadDump(smbios::Bytes contents, const std::string& file,
-                                   SnapshotBuilder builder) {
-  const smbios::EntryPoint entryPoint = smbios::ReadEntryPoint(contents, file);
-  if (entryPoint.tableAddress >= contents.size()) {
-    throw StoreError(smbios::PlaceAt(file, 0), "the entry point gives the table an address, " +
-                                                   std::to_string(entryPoint.tableAddress) +
-                                                   ", past the end of the file");
-  }
-  const auto offset = static_cast<size_t>(entryPoint.tableAddress);
-  return SnapshotOfTable(contents.subspan(offset), entryPoint, file, offset, std::move(builder));
 }
 
 std::unique_ptr<Snapshot> LoadBareTable(smbios::Bytes table, const fs::path& path,
@@ -67,13 +55,26 @@ std::unique_ptr<Snapshot> LoadBareTable(smbios::Bytes table, const fs::path& pat
 
 }  // namespace
 
+std::unique_ptr<Snapshot> ParseFirmwareDump(std::string_view contents, const std::string& file,
+                                            SnapshotBuilder builder) {
+  const smbios::Bytes bytes = BytesOf(contents);
+  const smbios::EntryPoint entryPoint = smbios::ReadEntryPoint(bytes, file);
+  if (entryPoint.tableAddress >= bytes.size()) {
+    throw StoreError(smbios::PlaceAt(file, 0), "the entry point gives the table an address, " +
+                                                   std::to_string(entryPoint.tableAddress) +
+                                                   ", past the end of the file");
+  }
+  const auto offset = static_cast<size_t>(entryPoint.tableAddress);
+  return SnapshotOfTable(bytes.subspan(offset), entryPoint, file, offset, std::move(builder));
+}
+
 std::unique_ptr<Snapshot> LoadFirmwareTable(const fs::path& path, SnapshotBuilder builder) {
   std::error_code error;
   const fs::path file = fs::is_directory(path, error) ? path / kTableName : path;
   const std::string contents = ReadFile(file);
-  const smbios::Bytes bytes = BytesOf(contents);
-  return smbios::HasEntryPoint(bytes) ? LoadDump(bytes, TextOf(file), std::move(builder))
-                                      : LoadBareTable(bytes, file, std::move(builder));
+  return smbios::HasEntryPoint(BytesOf(contents))
+             ? ParseFirmwareDump(contents, TextOf(file), std::move(builder))
+             : LoadBareTable(BytesOf(contents), file, std::move(builder));
 }
 
 }  // namespace tqcim::store

@@ -3,6 +3,8 @@
 
 #include <filesystem>
 #include <memory>
+#include <string>
+#include <string_view>
 
 #include "store/snapshot.h"
 #include "store/snapshot_builder.h"
@@ -18,6 +20,10 @@ namespace tqcim::store {
 /// The objects that the builder already has are part of the snapshot, too. Throws StoreError
 /// "FILE: byte OFFSET: reason".
 std::unique_ptr<Snapshot> LoadFirmwareTable(const std::filesystem::path& path,
+                                            SnapshotBuilder builder = {});
+
+/// The same for the contents of a dump file at hand; `file` is the name that errors carry.
+std::unique_ptr<Snapshot> ParseFirmwareDump(std::string_view contents, const std::string& file,
                                             SnapshotBuilder builder = {});
 
 /// The running machine: its table, and its network adapters, of which the table doesn't tell.

@@ -26,7 +26,11 @@ std::optional<uint16_t> ReadIniNumber(const std::filesystem::path& file, const s
                                       const std::string& key) {
   std::error_code error;
   if (!std::filesystem::exists(file, error)) return std::nullopt;
-  const std::string contents = ReadFile(file);
+  return ParseIniNumber(ReadFile(file), section, key);
+}
+
+std::optional<uint16_t> ParseIniNumber(std::string_view contents, const std::string& section,
+                                       const std::string& key) {
   constexpr bool kUtf8 = true;
   // Without this a later value of a key would take the place of the first.
   constexpr bool kSeveralValues = true;

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tqcim::store {
 
@@ -14,5 +15,8 @@ namespace tqcim::store {
 /// that is there and can't be read.
 std::optional<uint16_t> ReadIniNumber(const std::filesystem::path& file, const std::string& section,
                                       const std::string& key);
+/// The same for contents at hand.
+std::optional<uint16_t> ParseIniNumber(std::string_view contents, const std::string& section,
+                                       const std::string& key);
 
 }  // namespace tqcim::store

@@ -50,7 +50,9 @@ class LineCountingIterator {
 };
 
 /// The reason that the parser gives, without its own prefix and without the text that it quotes.
-std::string ReasonOf(const std::exception& error) {
+std::string ReasonOf(const json::exception& error) {
+  // The one error that is none of syntax; its reason quotes all of the number.
+  if (dynamic_cast<const json::out_of_range*>(&error) != nullptr) return "a number is too large";
   std::string reason = error.what();
   if (const size_t end = reason.find("; last read"); end != std::string::npos) reason.resize(end);
   const size_t column = reason.find(", column ");
@@ -150,7 +152,7 @@ std::string Quoted(std::string_view text) {
   constexpr size_t kLongest = 60;
   const bool cut = text.size() > kLongest;
   return json(std::string(text.substr(0, kLongest)) + (cut ? "..." : ""))
-      .dump(-1, ' ', false, json::error_handler_t::replace);
+      .dump(-1, ' ', true, json::error_handler_t::replace);
 }
 
 const JsonValue* JsonValue::Member(std::string_view name) const {

@@ -9,9 +9,18 @@
 
 namespace tqcim::store {
 
-struct JsonMember;
+struct JsonValue;
 
-/// The text in quotes, for error sentences: shortened, and on one line whatever it contains.
+/// A value and its name. A template, because it is named before JsonValue is complete.
+template <typename Value>
+struct Named {
+  std::string name;
+  Value value;
+};
+using JsonMember = Named<JsonValue>;
+
+/// The text in quotes, for error sentences: shortened, and in printable ASCII on one line whatever
+/// it contains.
 std::string Quoted(std::string_view text);
 
 /// One value of a document. Of the content members only the one of its kind is filled.
@@ -28,11 +37,6 @@ struct JsonValue {
 
   /// The member of that name, or null.
   const JsonValue* Member(std::string_view name) const;
-};
-
-struct JsonMember {
-  std::string name;
-  JsonValue value;
 };
 
 /// A parsed document. Every failure is a StoreError "FILE:LINE: reason".

@@ -43,7 +43,7 @@ TEST(ClassRegistry, TheHandlerOfANameRegisteredTwiceIsOne) {
 }
 
 TEST(ClassRegistry, AHandlerThatFindsNoMemoryIsNull) {
-  const Fault noMemory(FaultKind::kAllocations, 0);
+  const Fault noMemory({FaultKind::kAllocations, 0});
   EXPECT_EQ(nullptr, kRegisteredClasses[0].makeHandler());
 }
 

@@ -47,7 +47,7 @@ TEST_F(EntryPointsTest, AnInterfaceThatTheFactoryLacksIsRefused) {
 }
 
 TEST_F(EntryPointsTest, AFactoryThatFindsNoMemoryIsRefused) {
-  const Fault noMemory(FaultKind::kAllocations, 0);
+  const Fault noMemory({FaultKind::kAllocations, 0});
   EXPECT_EQ(Hr(0x8007000E),
             DllGetClassObject(ClsidOf(kProviderClsidText), IID_IClassFactory, &object));
 }
@@ -99,7 +99,7 @@ TEST_F(EntryPointsTest, AProviderThatLacksTheInterfaceIsDestroyed) {
 
 TEST_F(EntryPointsTest, AProviderThatFindsNoMemoryIsRefused) {
   const auto factory = Factory();
-  const Fault noMemory(FaultKind::kAllocations, 0);
+  const Fault noMemory({FaultKind::kAllocations, 0});
   EXPECT_EQ(Hr(0x8007000E), factory->CreateInstance(nullptr, IID_IWbemServices, &object));
   EXPECT_EQ(nullptr, object);
 }

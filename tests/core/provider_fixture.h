@@ -9,6 +9,7 @@
 #include "core/module.h"
 #include "tests/support/fake_path_parser.h"
 #include "tests/support/fake_services.h"
+#include "tests/support/fault.h"
 #include "tests/support/handler_test.h"
 
 namespace tqcim::testing {
@@ -19,8 +20,9 @@ class FakeInitSink final : public ComFake<IWbemProviderInitSink, IID_IWbemProvid
   FakeInitSink() : ComFake("an init sink") {}
 
   HRESULT STDMETHODCALLTYPE SetStatus(LONG status, LONG flags) override {
+    const OutsideCall call(Call::kStatus);
     calls_.push_back({status, flags});
-    return S_OK;
+    return call.Result();
   }
 
   /// Status and flags of every call.

@@ -40,7 +40,7 @@ HRESULT Deliver(IWbemClassObject& definition, IWbemObjectSink& sink, const std::
   return sink.Indicate(1, &instance);
 }
 
-class Services final : public RefusingServices {
+class Services final : public RefusingServices<IWbemServices> {
  public:
   explicit Services(IUnknown& outer) : outer_(outer) {}
 
@@ -52,8 +52,7 @@ class Services final : public RefusingServices {
 
   /// Connects as a provider does that asks for IUnknown and takes it for the locator.
   void Connect() {
-    const Com<IUnknown> unknown =
-        Create<IUnknown>(CLSID_WbemAdministrativeLocator, IID_IUnknown);
+    const Com<IUnknown> unknown = Create<IUnknown>(CLSID_WbemAdministrativeLocator, IID_IUnknown);
     auto* locator = static_cast<IWbemLocator*>(static_cast<void*>(unknown.get()));
     const Bstr name(OLESTR("root\\CIMV2\\vorn"));
     IWbemServices* connection = nullptr;

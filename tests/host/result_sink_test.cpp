@@ -12,7 +12,8 @@ constexpr HRESULT kCancelled = static_cast<HRESULT>(0x80041032);
 constexpr HRESULT kNotNow = static_cast<HRESULT>(0x8004101D);
 
 /// An instance that another implementation has made.
-class ForeignObject final : public RefusingClassObject {
+class ForeignObject final
+    : public RefusingClassObject<ComObject<IWbemClassObject, IID_IWbemClassObject>> {
  public:
   HRESULT STDMETHODCALLTYPE Get(LPCWSTR, LONG, VARIANT*, CIMTYPE*, LONG*) override { return S_OK; }
   HRESULT STDMETHODCALLTYPE Put(LPCWSTR, LONG, VARIANT*, CIMTYPE) override { return S_OK; }

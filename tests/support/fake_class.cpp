@@ -2,9 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/fault.h"
+
 namespace tqcim::testing {
 
 HRESULT RecordingInstance::Put(LPCWSTR name, LONG flags, VARIANT* value, CIMTYPE type) {
+  const OutsideCall call(Call::kPut);
+  if (call.Fails()) return call.Result();
   ExpectHeld("Put");
   EXPECT_EQ(0, flags);
   if (recording_) puts_.push_back({Printable(name), V_VT(value), type, ValueText(*value)});
@@ -18,6 +22,11 @@ FakeClass::~FakeClass() {
 }
 
 HRESULT FakeClass::SpawnInstance(LONG flags, IWbemClassObject** instance) {
+  const OutsideCall call(Call::kSpawn);
+  if (call.Fails()) {
+    *instance = nullptr;
+    return call.Result();
+  }
   EXPECT_EQ(0, flags);
   const auto failure = failures_.find(spawns_.fetch_add(1, std::memory_order_relaxed));
   if (failure != failures_.end()) {

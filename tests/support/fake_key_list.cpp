@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "tests/support/fault.h"
+
 namespace tqcim::testing {
 
 FakeKey StringKey(const OLECHAR* name, const OLECHAR* text) {
@@ -15,12 +17,16 @@ FakeKey NumberKey(const OLECHAR* name, int32_t number) {
 }
 
 HRESULT FakeKeyList::GetCount(ULONG* count) {
+  const OutsideCall call(Call::kKeys);
+  if (call.Fails()) return call.Result();
   if (SUCCEEDED(countResult_)) *count = static_cast<ULONG>(keys_.size());
   return countResult_;
 }
 
 HRESULT FakeKeyList::GetKey2(ULONG index, ULONG flags, ULONG* nameRoom, LPWSTR name, VARIANT* value,
                              ULONG* apparentType) {
+  const OutsideCall call(Call::kKeys);
+  if (call.Fails()) return call.Result();
   EXPECT_EQ(0u, flags);
   EXPECT_EQ(256u, *nameRoom);
   reads_.push_back(index);

@@ -3,30 +3,39 @@
 
 #include "platform/libraries.h"
 #include "tests/support/fake_store.h"
+#include "tests/support/fault.h"
 
+using tqcim::testing::Call;
 using tqcim::testing::FakeStore;
+using tqcim::testing::OutsideCall;
 
 void* SMILGetObjByOID(uint32_t* oid) {
-  return FakeStore::Installed().ReadObject(*oid);
+  const OutsideCall call(Call::kLibrary);
+  return call.Fails() ? nullptr : FakeStore::Installed().ReadObject(*oid);
 }
 
 void* SMILListChildOIDByType(uint32_t* parentOid, uint16_t objectType) {
-  return FakeStore::Installed().ListChildren(*parentOid, objectType);
+  const OutsideCall call(Call::kLibrary);
+  return call.Fails() ? nullptr : FakeStore::Installed().ListChildren(*parentOid, objectType);
 }
 
 char* SMILDOGetByOffsetUTF8Str(void* dataObject, uint32_t offset) {
-  return FakeStore::Installed().GetUtf8Text(dataObject, offset);
+  const OutsideCall call(Call::kLibrary);
+  return call.Fails() ? nullptr : FakeStore::Installed().GetUtf8Text(dataObject, offset);
 }
 
 void SMILFreeGeneric(void* block) {
+  const OutsideCall call;
   FakeStore::Installed().FreeGeneric(block);
 }
 
 void* SMAllocMem(uint32_t size) {
-  return FakeStore::Installed().Allocate(size);
+  const OutsideCall call(Call::kLibrary);
+  return call.Fails() ? nullptr : FakeStore::Installed().Allocate(size);
 }
 
 void SMFreeMem(void* block) {
+  const OutsideCall call;
   FakeStore::Installed().FreeSupport(block);
 }
 
@@ -37,6 +46,9 @@ int32_t SMReadINIFileValue(const char* section, const char* key, uint32_t valueT
                            const char* fileName, uint32_t flag) {
   constexpr uint32_t kUint16 = 4;
   constexpr int32_t kWrongArguments = 1;
+  constexpr int32_t kUnreadable = 2;
+  const OutsideCall call(Call::kLibrary);
+  if (call.Fails()) return kUnreadable;
   uint16_t number;
   if (valueType != kUint16 || *size != sizeof number || defaultValue != value ||
       defaultSize != sizeof number || flag != 1) {
@@ -48,24 +60,30 @@ int32_t SMReadINIFileValue(const char* section, const char* key, uint32_t valueT
   return 0;
 }
 
+/// Has no failure to tell.
 int32_t SMUCS2Strcmp(const OLECHAR* a, const OLECHAR* b) {
   while (*a && *a == *b) ++a, ++b;
   return (*a > *b) - (*a < *b);
 }
 
 int32_t SMUTF8StrToUCS2Str(OLECHAR* destination, uint32_t* sizeInBytes, const char* source) {
+  const OutsideCall call(Call::kLibrary);
+  if (call.Fails()) return 1;
   const int room = static_cast<int>(*sizeInBytes / sizeof(OLECHAR));
   return MultiByteToWideChar(CP_UTF8, 0, source, -1, destination, room) > 0 ? 0 : 1;
 }
 
 void* XEPGetEELR(uint32_t* logOid, uint32_t index) {
-  return FakeStore::Installed().GetRecord(*logOid, index);
+  const OutsideCall call(Call::kLibrary);
+  return call.Fails() ? nullptr : FakeStore::Installed().GetRecord(*logOid, index);
 }
 
 uint32_t XEPGetEELRNum(uint32_t* logOid) {
-  return FakeStore::Installed().CountRecords(*logOid);
+  const OutsideCall call(Call::kLibrary);
+  return call.Fails() ? 0 : FakeStore::Installed().CountRecords(*logOid);
 }
 
 void XEPFreeGeneric(void* record) {
+  const OutsideCall call;
   FakeStore::Installed().FreeRecord(record);
 }

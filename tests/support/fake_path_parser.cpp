@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "tests/support/fault.h"
 #include "tests/support/recorded_put.h"
 
 namespace tqcim::testing {
@@ -11,6 +12,8 @@ class FakePathParser::Path final : public RefusingPath {
   explicit Path(FakePathParser& parser) : RefusingPath("a path"), parser_(parser) {}
 
   HRESULT STDMETHODCALLTYPE SetText(ULONG mode, LPCWSTR text) override {
+    const OutsideCall call(Call::kPath);
+    if (call.Fails()) return call.Result();
     ExpectHeld("SetText");
     if (parser_.onParse_) parser_.onParse_();
     parser_.calls_.push_back("SetText " + std::to_string(mode) + " " + Printable(text));
@@ -22,6 +25,8 @@ class FakePathParser::Path final : public RefusingPath {
 
   /// The length that the parser tells counts the terminator.
   HRESULT STDMETHODCALLTYPE GetClassName(ULONG* room, LPWSTR name) override {
+    const OutsideCall call(Call::kPath);
+    if (call.Fails()) return call.Result();
     ExpectHeld("GetClassName");
     parser_.calls_.push_back(name ? "GetClassName text" : "GetClassName length");
     const HRESULT result = name ? parser_.classNameResult_ : parser_.lengthResult_;
@@ -35,6 +40,8 @@ class FakePathParser::Path final : public RefusingPath {
   }
 
   HRESULT STDMETHODCALLTYPE GetKeyList(IWbemPathKeyList** keys) override {
+    const OutsideCall call(Call::kPath);
+    if (call.Fails()) return call.Result();
     ExpectHeld("GetKeyList");
     parser_.calls_.push_back("GetKeyList");
     if (!parsed_.keys) return static_cast<HRESULT>(WBEM_E_NOT_AVAILABLE);

@@ -5,12 +5,15 @@
 #include <algorithm>
 #include <ostream>
 
+#include "tests/support/fault.h"
 #include "tests/support/recorded_put.h"
 
 namespace tqcim::testing {
 
 HRESULT FakeServices::GetObject(const BSTR path, LONG flags, IWbemContext* context,
                                 IWbemClassObject** object, IWbemCallResult** result) {
+  const OutsideCall call(testing::Call::kClassDefinition);
+  if (call.Fails()) return call.Result();
   ExpectHeld("GetObject");
   objectCalls_.push_back({Printable(path), flags, context != nullptr, result != nullptr});
   const auto definition = definitions_.find(Printable(path));
@@ -34,6 +37,7 @@ std::ostream& operator<<(std::ostream& out, const FakeServices::Call& call) {
 }
 
 HRESULT FakeLocator::QueryInterface(REFIID iid, void** object) {
+  const OutsideCall call;
   askedFor_.push_back(iid);
   return ComFake::QueryInterface(iid, object);
 }
@@ -41,6 +45,8 @@ HRESULT FakeLocator::QueryInterface(REFIID iid, void** object) {
 HRESULT FakeLocator::ConnectServer(const BSTR path, const BSTR user, const BSTR password,
                                    const BSTR locale, LONG securityFlags, const BSTR authority,
                                    IWbemContext* context, IWbemServices** services) {
+  const OutsideCall call(Call::kConnection);
+  if (call.Fails()) return call.Result();
   ExpectHeld("ConnectServer");
   EXPECT_EQ(nullptr, user);
   EXPECT_EQ(nullptr, password);
@@ -61,8 +67,10 @@ bool FakeLocator::WasAskedFor(REFIID iid) const {
 }
 
 HRESULT FakeFactory::CreateInstance(IUnknown* outer, REFIID iid, void** object) {
+  const OutsideCall call(Call::kActivation);
   EXPECT_EQ(nullptr, outer);
   *object = nullptr;
+  if (call.Fails()) return call.Result();
   return make_(iid, object);
 }
 

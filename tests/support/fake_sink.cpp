@@ -5,9 +5,12 @@
 #include <ostream>
 #include <utility>
 
+#include "tests/support/fault.h"
+
 namespace tqcim::testing {
 
 HRESULT FakeSink::Indicate(LONG count, IWbemClassObject** objects) {
+  const OutsideCall call(Call::kIndicate);
   EXPECT_EQ(1, count) << "instances are delivered one by one";
   auto* const instance = static_cast<RecordingInstance*>(objects[0]);
   instance->ExpectHeld("Indicate");
@@ -17,12 +20,14 @@ HRESULT FakeSink::Indicate(LONG count, IWbemClassObject** objects) {
   }
   const auto refusal = refusals_.find(static_cast<uint32_t>(delivered_.size()));
   delivered_.push_back(instance->puts());
+  if (call.Fails()) return call.Result();
   return refusal == refusals_.end() ? indicateResult_ : refusal->second;
 }
 
 HRESULT FakeSink::SetStatus(LONG flags, HRESULT result, BSTR text, IWbemClassObject* object) {
+  const OutsideCall call(Call::kStatus);
   statusCalls_.push_back({flags, result, text != nullptr, object != nullptr, delivered_.size()});
-  return S_OK;
+  return call.Result();
 }
 
 void FakeSink::GiveInstancesBack() {

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <sstream>
 
 namespace tqcim::testing {
 namespace {
@@ -55,24 +56,18 @@ void FakeStore::SetIniValue(const std::string& fileName, const std::string& sect
   iniValues_[{fileName, section, key}] = value;
 }
 
-void FakeStore::FailRead(uint32_t oid, uint32_t times) {
+void FakeStore::FailRead(uint32_t oid, uint32_t times, uint32_t first) {
   scripted_ = true;
-  failingReads_[oid] = times;
+  failingReads_[oid] = {first, times};
 }
 
 void FakeStore::FailListing(uint32_t parentOid, uint16_t type, uint32_t times) {
   scripted_ = true;
-  failingListings_[{parentOid, type}] = times;
+  failingListings_[{parentOid, type}] = {0, times};
 }
 
 void FakeStore::FailAllocations() {
   scripted_ = noMemory_ = true;
-}
-
-void FakeStore::FailCall(uint32_t position) {
-  scripted_ = true;
-  callsUntilFailure_ = position;
-  hasFailedCall_ = false;
 }
 
 void FakeStore::ExpectLeaked(size_t count) {
@@ -87,45 +82,44 @@ uint32_t FakeStore::U32WhenFreed(uint32_t oid, uint32_t offset) const {
   return value;
 }
 
-void FakeStore::Note(const std::string& call) {
+template <typename... Parts>
+void FakeStore::Note(const Parts&... parts) {
   if (!scripted_) return;
   const std::lock_guard lock(mutex_);
-  if (recording_) calls_.push_back(call);
-}
-
-bool FakeStore::Refuses(const std::string& call) {
-  if (!scripted_) return false;
-  Note(call);
-  const std::lock_guard lock(mutex_);
-  if (!callsUntilFailure_ || (*callsUntilFailure_)-- != 0) return false;
-  callsUntilFailure_.reset();
-  hasFailedCall_ = true;
-  return true;
+  if (!recording_) return;
+  std::ostringstream call;
+  (call << ... << parts);
+  calls_.push_back(call.str());
 }
 
 template <typename Key>
-bool FakeStore::Refuses(const std::string& call, std::map<Key, uint32_t>& failures,
-                        const Key& key) {
+bool FakeStore::Refuses(std::map<Key, Failures>& failures, const Key& key) {
   if (!scripted_) return false;
-  if (Refuses(call)) return true;
   const std::lock_guard lock(mutex_);
-  const auto failure = failures.find(key);
-  if (failure == failures.end() || failure->second == 0) return false;
-  if (failure->second != kAlways) --failure->second;
+  const auto found = failures.find(key);
+  if (found == failures.end()) return false;
+  auto& [first, times] = found->second;
+  if (first != 0) {
+    --first;
+    return false;
+  }
+  if (times == 0) return false;
+  if (times != kAlways) --times;
   return true;
 }
 
 void* FakeStore::ReadObject(uint32_t oid) {
-  if (Refuses("object " + std::to_string(oid), failingReads_, oid)) return nullptr;
+  Note("object ", oid);
+  if (Refuses(failingReads_, oid)) return nullptr;
   const auto object = objects_.find(oid);
   if (object == objects_.end()) return nullptr;
   return blocks_.HandOut(BlockKind::kDataObject, object->second.Build());
 }
 
 void* FakeStore::ListChildren(uint32_t parentOid, uint16_t type) {
-  const std::string call = "children " + std::to_string(parentOid) + "/" + std::to_string(type);
+  Note("children ", parentOid, "/", type);
   const Listing key(parentOid, type);
-  if (Refuses(call, failingListings_, key)) return nullptr;
+  if (Refuses(failingListings_, key)) return nullptr;
   const auto longListing = longListings_.find(key);
   if (longListing != longListings_.end()) {
     return blocks_.Lend(BlockKind::kOidList, longListing->second);
@@ -136,7 +130,7 @@ void* FakeStore::ListChildren(uint32_t parentOid, uint16_t type) {
 }
 
 char* FakeStore::GetUtf8Text(const void* dataObject, uint32_t offset) {
-  if (Refuses("text " + std::to_string(offset))) return nullptr;
+  Note("text ", offset);
   const std::string* const text = blocks_.TextOf(dataObject, offset);
   if (!text) return nullptr;
   std::vector<uint8_t> bytes(text->begin(), text->end());
@@ -151,7 +145,8 @@ void FakeStore::FreeGeneric(void* block) {
 }
 
 void* FakeStore::Allocate(uint32_t size) {
-  if (Refuses("allocate " + std::to_string(size)) || noMemory_) return nullptr;
+  Note("allocate ", size);
+  if (noMemory_) return nullptr;
   constexpr uint8_t kUnset = 0xCD;
   return blocks_.HandOut(BlockKind::kSupportMemory, {std::vector<uint8_t>(size, kUnset), {}});
 }
@@ -162,7 +157,7 @@ void FakeStore::FreeSupport(void* block) {
 }
 
 uint32_t FakeStore::CountRecords(uint32_t logOid) {
-  Note("records " + std::to_string(logOid));
+  Note("records ", logOid);
   const auto count = recordCounts_.find(logOid);
   if (count != recordCounts_.end()) return count->second;
   const auto log = records_.find(logOid);
@@ -170,7 +165,7 @@ uint32_t FakeStore::CountRecords(uint32_t logOid) {
 }
 
 void* FakeStore::GetRecord(uint32_t logOid, uint32_t index) {
-  if (Refuses("record " + std::to_string(logOid) + "/" + std::to_string(index))) return nullptr;
+  Note("record ", logOid, "/", index);
   const auto log = records_.find(logOid);
   if (log == records_.end() || index >= log->second.size()) return nullptr;
   return blocks_.HandOut(BlockKind::kEventRecord, log->second[index].Build());
@@ -183,7 +178,7 @@ void FakeStore::FreeRecord(void* record) {
 
 std::optional<uint16_t> FakeStore::GetIniValue(const std::string& fileName,
                                                const std::string& section, const std::string& key) {
-  Note("ini " + fileName + " [" + section + "] " + key);
+  Note("ini ", fileName, " [", section, "] ", key);
   const auto value = iniValues_.find({fileName, section, key});
   if (value == iniValues_.end()) return std::nullopt;
   return value->second;

@@ -55,15 +55,13 @@ class FakeStore {
 
   /// @name Failures
   /// @{
-  void FailRead(uint32_t oid, uint32_t times = kAlways);
+  /// The reads of an object from number `first` (from 0) on give null: with kAlways it has
+  /// vanished, although it stays listed.
+  void FailRead(uint32_t oid, uint32_t times = kAlways, uint32_t first = 0);
   /// The listing gives null, not an empty list.
   void FailListing(uint32_t parentOid, uint16_t type, uint32_t times = kAlways);
   /// SMAllocMem has no memory.
   void FailAllocations();
-  /// Of the calls that hand out a block, the one at `position` (from 0) gives null.
-  void FailCall(uint32_t position);
-  /// Whether the call that FailCall told was made.
-  bool HasFailedCall() const { return hasFailedCall_; }
   /// @}
 
   /// @name Observation
@@ -102,11 +100,17 @@ class FakeStore {
  private:
   using Listing = std::pair<uint32_t, uint16_t>;
 
-  /// Notes a call, and tells whether it is one that has to fail.
-  bool Refuses(const std::string& call);
+  /// Which of the calls yet to come fail.
+  struct Failures {
+    uint32_t first;
+    uint32_t times;
+  };
+  /// Whether a call is one that has to fail.
   template <typename Key>
-  bool Refuses(const std::string& call, std::map<Key, uint32_t>& failures, const Key& key);
-  void Note(const std::string& call);
+  bool Refuses(std::map<Key, Failures>& failures, const Key& key);
+  /// Notes a call, told in parts that make its text.
+  template <typename... Parts>
+  void Note(const Parts&... parts);
 
   std::map<uint32_t, FakeBlock> objects_;
   std::map<Listing, std::vector<uint32_t>> listings_;
@@ -121,11 +125,9 @@ class FakeStore {
   bool scripted_ = false;
   std::mutex mutex_;  // guards what follows
   bool recording_ = false;
-  std::map<uint32_t, uint32_t> failingReads_;
-  std::map<Listing, uint32_t> failingListings_;
+  std::map<uint32_t, Failures> failingReads_;
+  std::map<Listing, Failures> failingListings_;
   bool noMemory_ = false;
-  std::optional<uint32_t> callsUntilFailure_;
-  bool hasFailedCall_ = false;
   std::vector<std::string> calls_;
 };
 

@@ -104,12 +104,16 @@ TEST_F(FakeStoreTest, FailuresComeAsOftenAsTold) {
   EXPECT_EQ(nullptr, Read(7));
   EXPECT_EQ(nullptr, Read(7));
   SMILFreeGeneric(Read(7));
-  store->FailCall(1);
-  SMILFreeGeneric(List(2, 19));
-  EXPECT_FALSE(store->HasFailedCall());
-  EXPECT_EQ(nullptr, List(2, 19));
-  EXPECT_TRUE(store->HasFailedCall());
-  SMILFreeGeneric(List(2, 19));
+}
+
+TEST_F(FakeStoreTest, AnObjectVanishesAndStaysListed) {
+  store->FailRead(7, FakeStore::kAlways, 1);
+  SMILFreeGeneric(Read(7));
+  EXPECT_EQ(nullptr, Read(7));
+  EXPECT_EQ(nullptr, Read(7));
+  void* const list = List(2, 19);
+  EXPECT_NE(nullptr, list);
+  SMILFreeGeneric(list);
 }
 
 TEST(ComFakes, AReferenceThatIsKeptFails) {

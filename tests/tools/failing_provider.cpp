@@ -9,7 +9,7 @@
 namespace tqcim::host {
 namespace {
 
-class Services final : public RefusingServices {
+class Services final : public RefusingServices<IWbemServices> {
  public:
   explicit Services(IUnknown& outer) : outer_(outer) {}
 

@@ -2,6 +2,8 @@
 
 #include <limits>
 
+#include "tests/support/fault.h"
+
 namespace tqcim::testing {
 namespace {
 
@@ -166,10 +168,13 @@ TEST_P(EventLogTest, ALogWithoutRecordsIsSuccessWithNothing) {
 }
 
 TEST_P(EventLogTest, ARecordThatCannotBeReadEndsTheEnumeration) {
-  // The list of logs, the log, and the record 0 are read before it.
-  store.FailCall(3);
-  EXPECT_EQ(0, EnumerateClass());
-  EXPECT_TRUE(store.HasFailedCall());
+  // The list of logs, the log, and the record 0 are read before it; the ESM log is counted, too.
+  const uint32_t readsBefore = GetParam().kind == 1 ? 4 : 3;
+  {
+    const Fault unreadable({FaultKind::kLibraryCalls, readsBefore});
+    EXPECT_EQ(0, EnumerateClass());
+    EXPECT_TRUE(unreadable.FailedCall());
+  }
   EXPECT_EQ(Texts{"Record 0"}, Records());
 }
 

@@ -1,12 +1,13 @@
 // Counts by standing in the import slots of the functions that take and give back: a call of
 // `SysFreeString` goes through `__imp_SysFreeString`, which is defined here and not in the import
 // library. Copies of texts that oleaut32 makes and frees inside (in arrays and variants) are
-// counted where the call goes in.
+// counted where the call goes in. The functions that take may fail, too.
 #include "tests/support/ledger.h"
 
 #include <atomic>
 
 #include "platform/wmi.h"
+#include "tests/support/fault.h"
 
 namespace tqcim::testing {
 namespace {
@@ -57,11 +58,13 @@ BSTR Taken(BSTR text) {
 
 BSTR WINAPI CountingAllocString(const OLECHAR* text) {
   static auto* const real = IMPORTED("oleaut32.dll", SysAllocString);
+  if (text && AllocationFails(Call::kAutomation)) return nullptr;
   return Taken(real(text));
 }
 
 BSTR WINAPI CountingAllocStringLen(const OLECHAR* text, UINT length) {
   static auto* const real = IMPORTED("oleaut32.dll", SysAllocStringLen);
+  if (AllocationFails(Call::kAutomation)) return nullptr;
   return Taken(real(text, length));
 }
 
@@ -96,6 +99,7 @@ HRESULT WINAPI CountingVariantCopy(VARIANTARG* destination, VARIANTARG* source) 
 
 SAFEARRAY* WINAPI CountingCreateVector(VARTYPE type, LONG lowerBound, ULONG count) {
   static auto* const real = IMPORTED("oleaut32.dll", SafeArrayCreateVector);
+  if (AllocationFails(Call::kAutomation)) return nullptr;
   SAFEARRAY* const array = real(type, lowerBound, count);
   if (array) ++liveArrays;
   return array;
@@ -103,6 +107,7 @@ SAFEARRAY* WINAPI CountingCreateVector(VARTYPE type, LONG lowerBound, ULONG coun
 
 HRESULT WINAPI CountingPutElement(SAFEARRAY* array, LONG* index, void* element) {
   static auto* const real = IMPORTED("oleaut32.dll", SafeArrayPutElement);
+  if (AllocationFails(Call::kAutomation)) return E_OUTOFMEMORY;
   const int64_t before = TextsIn(array);
   const HRESULT put = real(array, index, element);
   liveTexts += TextsIn(array) - before;

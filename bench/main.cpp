@@ -1,0 +1,174 @@
+/// The benchmarks: what the provider costs beside what cannot be saved, and how its cost grows.
+/// Each table is Markdown; every figure in it that is judged is a ratio of times of one run.
+#include <algorithm>
+#include <cstdio>
+#include <exception>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
+
+#include "bench/heap_use.h"
+#include "bench/requests.h"
+#include "bench/scaled_server.h"
+#include "bench/timing.h"
+#include "core/class_registry.h"
+#include "core/module.h"
+
+namespace tqcim::bench {
+namespace {
+
+constexpr double kMicroseconds = 1e6;
+
+/// The classes that were asked for on the command line.
+std::vector<std::string> chosenClasses;
+
+/// Those, or every served class once, in the order of registration.
+std::vector<std::string> ClassNames() {
+  if (!chosenClasses.empty()) return chosenClasses;
+  std::vector<std::string> names;
+  for (const RegisteredClass& row : kRegisteredClasses) {
+    if (std::ranges::find(names, row.name) == names.end()) names.emplace_back(row.name);
+  }
+  return names;
+}
+
+void PrintFloorRow(const std::string& name) {
+  constexpr uint32_t kInstances = 1000;
+  OpenScaledServer(name, kInstances);
+  const ProvidedClass provided(name);
+  const RecordedRun recorded(provided);
+  const double instances = static_cast<double>(std::max<size_t>(recorded.Instances(), 1));
+  const std::vector<double> times = BestTimes(
+      {{"provider", [&] { provided.Enumerate(); }}, {"floor", [&] { recorded.Replay(provided); }}});
+  const auto provider = HeapUseOf([&] { provided.Enumerate(); });
+  const auto floor = HeapUseOf([&] { recorded.Replay(provided); });
+  std::printf("| `%s` | %zu | %.2f | %.2f | %.2f |", name.c_str(), recorded.Instances(),
+              times[0] / instances * kMicroseconds, times[1] / instances * kMicroseconds,
+              times[0] / times[1]);
+  if (provider && floor) {
+    std::printf(" %.1f | %.1f |", static_cast<double>(provider->allocations) / instances,
+                static_cast<double>(floor->allocations) / instances);
+  }
+  std::printf("\n");
+  std::fflush(stdout);
+}
+
+void PrintFloor() {
+  const bool counted = HeapUseOf([] {}).has_value();
+  std::printf(
+      "| class | instances | provider, us each | floor, us each | ratio "
+      "|%s\n|---|--:|--:|--:|--:|%s\n",
+      counted ? " allocations each | in the floor |" : "", counted ? "--:|--:|" : "");
+  for (const std::string& name : ClassNames()) PrintFloorRow(name);
+}
+
+constexpr uint32_t kSizes[] = {100, 1000, 10000, 60000};
+
+/// The time of one run over a store of each size. Sizes can't take turns, since each has a store of
+/// its own.
+template <typename MakeWork>
+void PrintGrowthRow(const std::string& name, MakeWork makeWork) {
+  std::vector<double> times;
+  for (const uint32_t size : kSizes) {
+    OpenScaledServer(name, size);
+    const ProvidedClass provided(name);
+    times.push_back(BestTimes({{"run", makeWork(provided)}})[0]);
+  }
+  std::printf("| `%s` |", name.c_str());
+  for (const double time : times) std::printf(" %.0f |", time * kMicroseconds);
+  std::printf(" %.1f | %.1f | %.1f |\n", times[1] / times[0], times[2] / times[1],
+              times[3] / times[2]);
+  std::fflush(stdout);
+}
+
+template <typename MakeWork>
+void PrintGrowthOf(const char* title, MakeWork makeWork) {
+  std::printf(
+      "\n%s\n\n| class | 100, us | 1,000 | 10,000 | 60,000 | to 1,000 | to 10,000 | to 60,000 (6 "
+      "times) |\n|---|--:|--:|--:|--:|--:|--:|--:|\n",
+      title);
+  for (const std::string& name : ClassNames()) {
+    if (OpenScaledServer(name, kSizes[0])) PrintGrowthRow(name, makeWork);
+  }
+}
+
+void PrintGrowth() {
+  PrintGrowthOf("Enumeration:", [](const ProvidedClass& provided) {
+    return [&provided] { provided.Enumerate(); };
+  });
+  PrintGrowthOf("The last instance by its key:", [](const ProvidedClass& provided) {
+    return [&provided, path = provided.LastPath()] { provided.Get(path); };
+  });
+}
+
+void PrintMemory() {
+  std::printf("| class | peak at 100, bytes | at 10,000 |\n|---|--:|--:|\n");
+  for (const std::string& name : ClassNames()) {
+    if (!OpenScaledServer(name, 100)) continue;
+    const ProvidedClass provided(name);
+    provided.Enumerate();
+    const auto few = HeapUseOf([&] { provided.Enumerate(); });
+    OpenScaledServer(name, 10000);
+    provided.Enumerate();
+    const auto many = HeapUseOf([&] { provided.Enumerate(); });
+    if (!few || !many) return;
+    std::printf("| `%s` | %zu | %zu |\n", name.c_str(), few->peakBytes, many->peakBytes);
+  }
+}
+
+void PrintThreads() {
+  std::printf("| class | two threads against one |\n|---|--:|\n");
+  for (const std::string& name : ClassNames()) {
+    if (!OpenScaledServer(name, 1000)) continue;
+    const ProvidedClass provided(name);
+    const auto twice = [&] {
+      provided.Enumerate();
+      provided.Enumerate();
+    };
+    const auto together = [&] {
+      std::thread other([&] { provided.Enumerate(); });
+      provided.Enumerate();
+      other.join();
+    };
+    const std::vector<double> times = BestTimes({{"one", twice}, {"two", together}});
+    std::printf("| `%s` | %.2f |\n", name.c_str(), times[0] / times[1]);
+    std::fflush(stdout);
+  }
+}
+
+struct Table {
+  std::string_view name;
+  void (*print)();
+};
+constexpr Table kTables[] = {{"floor", PrintFloor},
+                             {"growth", PrintGrowth},
+                             {"memory", PrintMemory},
+                             {"threads", PrintThreads}};
+
+}  // namespace
+}  // namespace tqcim::bench
+
+int main(int count, char** arguments) {
+  using namespace tqcim::bench;
+  const std::string_view wanted = count >= 2 ? arguments[1] : "";
+  const auto table = std::ranges::find(kTables, wanted, &Table::name);
+  if (table == std::end(kTables)) {
+    std::fprintf(stderr, "usage: provider_bench floor | growth | memory | threads [CLASS...]\n");
+    return 2;
+  }
+  chosenClasses.assign(arguments + 2, arguments + count);
+  CoInitializeEx(nullptr, COINIT_MULTITHREADED);
+  tqcim::AttachModule();
+  int status = 0;
+  try {
+    table->print();
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "provider_bench: %s\n", error.what());
+    status = 1;
+  }
+  tqcim::DetachModule();
+  CoUninitialize();
+  return status;
+}

@@ -1,0 +1,13 @@
+/// What the process holds; one implementation per platform.
+#pragma once
+
+#include <cstddef>
+
+namespace tqcim::bench {
+
+/// The memory of the process that is in use: resident natively, private on Windows.
+size_t MemoryInUse();
+/// Open files natively, handles on Windows.
+size_t OpenHandles();
+
+}  // namespace tqcim::bench

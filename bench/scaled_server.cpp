@@ -1,0 +1,146 @@
+#include "bench/scaled_server.h"
+
+#include <embedded/samples.h>
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <vector>
+
+#include "store/store_control.h"
+
+namespace tqcim::bench {
+namespace {
+
+using Json = nlohmann::json;
+
+/// Which objects below the main chassis become instances of the class; the records of the logs
+/// where it says eventLog.
+struct ScaledType {
+  std::string_view className;
+  std::string_view type;
+};
+constexpr ScaledType kScaledTypes[] = {{"CIM_TemperatureSensor", "temperatureProbe"},
+                                       {"CIM_PackageTempSensor", "temperatureProbe"},
+                                       {"CIM_VoltageSensor", "voltageProbe"},
+                                       {"CIM_PackageVoltSensor", "voltageProbe"},
+                                       {"CIM_CurrentSensor", "currentProbe"},
+                                       {"CIM_PackageCurrentSensor", "currentProbe"},
+                                       {"CIM_Tachometer", "fanProbe"},
+                                       {"CIM_Fan", "fanProbe"},
+                                       {"CIM_PackageFanSensor", "fanProbe"},
+                                       {"VORN_FanSensor", "fanProbe"},
+                                       {"CIM_DiscreteSensor", "processorSensor"},
+                                       {"VORN_EsmLog", "eventLog"},
+                                       {"VORN_PostLog", "eventLog"},
+                                       {"CIM_Watchdog", "watchdog"},
+                                       {"CIM_PowerSupply", "powerSupply"},
+                                       {"CIM_PackagePowerSupply", "powerSupply"},
+                                       {"VORN_PSRedundancy", "powerSupply"},
+                                       {"VORN_PSRedundancyGroup", "redundancyGroup"},
+                                       {"VORN_FanRedundancyGroup", "redundancyGroup"},
+                                       {"CIM_Processor", "processorDevice"},
+                                       {"CIM_PhysicalMemory", "memoryDevice"},
+                                       {"VORN_Firmware", "firmware"},
+                                       {"VORN_Baseboard", "baseboard"},
+                                       {"CIM_FRU", "fru"},
+                                       {"CIM_Slot", "slot"},
+                                       {"CIM_SerialController", "serialPort"},
+                                       {"CIM_ParallelController", "parallelPort"},
+                                       {"CIM_PointingDevice", "pointingDevice"},
+                                       {"VORN_NetworkPort", "networkAdapter"},
+                                       {"VORN_ManagedSystemServicesDevice", "servicesDevice"},
+                                       {"VORN_SDCardDevice", "sdCard"}};
+
+class Server {
+ public:
+  Server() : document_(Json::parse(SampleText())) {
+    for (const Json& object : Objects()) {
+      nextOid_ = std::max(nextOid_, object.at("oid").get<uint32_t>() + 1);
+    }
+  }
+
+  void Scale(std::string_view type, uint32_t count) {
+    type == "eventLog" ? ScaleRecords(count) : ScaleObjects(type, count);
+  }
+
+  void Open() const {
+    const std::filesystem::path file =
+        std::filesystem::temp_directory_path() / "tqcim-bench-server.json";
+    std::ofstream(file, std::ios::binary) << document_;
+    char message[1024] = {};
+    const std::u8string name = file.u8string();
+    const std::string source = "store-file:" + std::string(name.begin(), name.end());
+    const int32_t failed = TQStoreOpen(source.c_str(), message, sizeof message);
+    std::filesystem::remove(file);
+    if (failed != 0) throw std::runtime_error(message);
+  }
+
+ private:
+  static std::string_view SampleText() { return embedded::samples::kFiles[0].contents; }
+
+  Json& Objects() { return document_.at("objects"); }
+
+  void ScaleRecords(uint32_t count) {
+    for (Json& object : Objects()) {
+      if (object.at("type") != "eventLog") continue;
+      const Json few = object.at("records");
+      Json& records = object["records"] = Json::array();
+      for (uint32_t i = 0; i < count; ++i) records.push_back(few.at(i % few.size()));
+    }
+  }
+
+  void ScaleObjects(std::string_view type, uint32_t count) {
+    std::vector<Json> few;
+    for (const Json& object : Objects()) {
+      if (object.at("type") == type) few.push_back(object);
+    }
+    const std::vector<Json> all = Objects();
+    for (uint32_t i = static_cast<uint32_t>(few.size()); i < count; ++i) {
+      Copy(few[i % few.size()], all);
+    }
+    auto& objects = Objects();
+    for (size_t i = few.size(); i > count; --i) {
+      const auto last = std::find_if(objects.rbegin(), objects.rend(),
+                                     [&](const Json& object) { return object.at("type") == type; });
+      objects.erase(std::next(last).base());
+    }
+  }
+
+  /// A copy of the object, and of its own children.
+  void Copy(Json object, const std::vector<Json>& all) {
+    const uint32_t former = object.at("oid");
+    object["oid"] = nextOid_++;
+    for (Json child : all) {
+      Json parents = child.value("parents", Json::array());
+      const auto own = std::find(parents.begin(), parents.end(), former);
+      if (own == parents.end()) continue;
+      *own = object.at("oid");
+      child["parents"] = parents;
+      child["oid"] = nextOid_++;
+      Objects().push_back(std::move(child));
+    }
+    Objects().push_back(std::move(object));
+  }
+
+  Json document_;
+  uint32_t nextOid_ = 1;
+};
+
+}  // namespace
+
+bool OpenScaledServer(std::string_view className, uint32_t instances) {
+  Server server;
+  bool scaled = false;
+  for (const ScaledType& row : kScaledTypes) {
+    if (row.className != className) continue;
+    server.Scale(row.type, instances);
+    scaled = true;
+  }
+  server.Open();
+  return scaled;
+}
+
+}  // namespace tqcim::bench

@@ -1,0 +1,56 @@
+# Writes two texts for the platform's MOF compiler: ASSEMBLED, which holds FILES (with | between
+# them) in their order, and REMOVAL, which deletes what the first makes: the registration, the
+# classes (associations first, subclasses before superclasses) and the namespace.
+string(REPLACE "|" ";" FILES "${FILES}")
+set(assembled "")
+set(classes "")
+set(associations "")
+foreach(file IN LISTS FILES)
+  file(READ ${file} text)
+  string(APPEND assembled "${text}\n")
+  while(text MATCHES "\n(\\[Association[^{]*\n)?class ([A-Za-z0-9_]+)(.*)")
+    set(text "${CMAKE_MATCH_3}")
+    # A superclass stands before its subclasses.
+    if(CMAKE_MATCH_1)
+      list(PREPEND associations ${CMAKE_MATCH_2})
+    else()
+      list(PREPEND classes ${CMAKE_MATCH_2})
+    endif()
+  endwhile()
+endforeach()
+
+string(REGEX MATCH "instance of __Namespace[^=]*= (\"[^\"]+\")" found "${assembled}")
+set(namespace ${CMAKE_MATCH_1})
+string(REGEX MATCH "instance of __Win32Provider[^=]*= (\"[^\"]+\")" found "${assembled}")
+set(provider ${CMAKE_MATCH_1})
+string(REGEX MATCHALL "#pragma namespace[^\n]*" pragmas "${assembled}")
+list(GET pragmas 0 in_parent)
+list(GET pragmas -1 in_namespace)
+
+# in_quotes(VARIABLE): the text as MOF writes it, with quotes around it.
+function(in_quotes variable)
+  string(REPLACE "\\" "\\\\" text "${${variable}}")
+  string(REPLACE "\"" "\\\"" text "${text}")
+  set(${variable} "\"${text}\"" PARENT_SCOPE)
+endfunction()
+
+# The path of an instance stands in quotes, and in the path of its registration once more.
+set(provider_path "__Win32Provider.Name=${provider}")
+set(registration_path "${provider_path}")
+in_quotes(registration_path)
+set(registration_path "__InstanceProviderRegistration.Provider=${registration_path}")
+set(namespace_path "__Namespace.Name=${namespace}")
+set(removal "// Deletes what tqcim.mof makes. What is not there is passed over.\n\n${in_namespace}\n\n")
+foreach(path registration_path provider_path)
+  in_quotes(${path})
+  string(APPEND removal "#pragma deleteinstance(${${path}}, NOFAIL)\n")
+endforeach()
+string(APPEND removal "\n")
+foreach(class IN LISTS associations classes)
+  string(APPEND removal "#pragma deleteclass(\"${class}\", NOFAIL)\n")
+endforeach()
+in_quotes(namespace_path)
+string(APPEND removal "\n${in_parent}\n\n#pragma deleteinstance(${namespace_path}, NOFAIL)\n")
+
+file(WRITE ${ASSEMBLED} "${assembled}")
+file(WRITE ${REMOVAL} "${removal}")
