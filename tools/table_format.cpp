@@ -168,8 +168,7 @@ std::string TableText(const Listing& listing, const Layout& layout) {
   const FittedTable fitted =
       FitTable(MakeTable(listing, columns.positions), columns.mandatory, layout);
   std::string text = Heading(listing, layout);
-  text += '\n';
-  text += fitted.text;
+  if (!columns.positions.empty()) text += '\n' + fitted.text;
   if (!fitted.left_out.empty()) {
     const std::string names = JoinedNames(fitted.left_out);
     text += '\n';

@@ -109,6 +109,18 @@ TEST_F(Tables, IgnoreAWidthThatIsNone) {
   }
 }
 
+TEST_F(Tables, HaveNoColumnsWhereNothingDiffers) {
+  const std::string file = Write("store.json", StoreFile(R"(
+      {"oid": 5, "type": "pointingDevice", "parents": [2]},
+      {"oid": 6, "type": "pointingDevice", "parents": [2]})"));
+  const std::string output = Run({"list", "CIM_PointingDevice", "--store", file}).output;
+  EXPECT_EQ(output.find("\n\n\n"), std::string::npos) << output;
+  EXPECT_NE(
+      output.find("\n\nThe same in all of them:\n  SystemCreationClassName  CIM_ComputerSystem\n"),
+      std::string::npos)
+      << output;
+}
+
 TEST_F(Tables, ShowASingleInstanceAsABlockWithKeysAndStatusFirst) {
   EXPECT_EQ(List("CIM_PhysicalMemory", R"(
       {"oid": 5, "type": "memoryDevice", "status": "ok", "parents": [2],
