@@ -24,7 +24,7 @@ inline std::string_view TextOf(const uint8_t* data, size_t size) {
 
 /// Checks that an error is one sentence for people, which begins with `place`.
 inline void CheckSentence(const std::string& sentence, std::string_view place) {
-  constexpr size_t kLongest = 400;
+  constexpr size_t kLongest = 1000;
   Check(sentence.starts_with(place), "an error begins with its place:", sentence);
   Check(sentence.size() > place.size() && sentence.size() <= kLongest,
         "an error is one sentence of bearable length:", sentence);

@@ -7,6 +7,9 @@
 namespace tqcim::host {
 namespace {
 
+/// The longest name that the platform takes. Errors quote words in full.
+constexpr size_t kLongestWord = 255;
+
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }
@@ -44,6 +47,11 @@ bool ReadInteger(std::string_view digits, bool negative, MofToken& token) {
     token.number = static_cast<int64_t>(magnitude);
   }
   return true;
+}
+
+void RequireLength(const std::string& word, const MofPlace& place) {
+  if (word.size() <= kLongestWord) return;
+  throw MofError(place, "a word of more than " + std::to_string(kLongestWord) + " characters");
 }
 
 std::string AsUtf8(char32_t character) {
@@ -165,6 +173,7 @@ MofToken MofLexer::Identifier(MofToken token) {
     token.text += Peek();
     Advance();
   }
+  RequireLength(token.text, token.place);
   return token;
 }
 
@@ -179,6 +188,7 @@ MofToken MofLexer::Number(MofToken token) {
     digits += Peek();
     Advance();
   }
+  RequireLength(digits, token.place);
   if (real) {
     token.kind = MofToken::Kind::kReal;
     double value = 0;

@@ -1,6 +1,7 @@
 // Paths and texts that once were read as something else than what stands there.
 #include <gtest/gtest.h>
 
+#include "host/mof_parser.h"
 #include "host/object_path.h"
 
 namespace tqcim::host {
@@ -18,7 +19,7 @@ std::string ErrorOf(std::string_view text) {
 
 TEST(OddObjectPath, ANamespaceThatWouldReadAsAClassWithKeysIsRefused) {
   const std::string reason = ": a namespace can't have this character in its name";
-  EXPECT_EQ("7" + reason, ErrorOf("\\\\HOST\\a=1:C"));
+  EXPECT_EQ("8" + reason, ErrorOf("\\\\HOST\\a=1:C"));
   EXPECT_EQ("2" + reason, ErrorOf("\\a.b:C"));
   EXPECT_EQ("10" + reason, ErrorOf("//./root/a'b:C"));
   EXPECT_EQ("10" + reason, ErrorOf("\\\\.\\root\\a\"b\\c"));
@@ -33,6 +34,23 @@ TEST(OddObjectPath, ANumberHasOneSign) {
   EXPECT_EQ(reason, ErrorOf("C.k=++5"));
   EXPECT_EQ(reason, ErrorOf("C.k=-+5"));
   EXPECT_EQ(reason, ErrorOf("C.k=+"));
+}
+
+TEST(OddMof, AWordLongerThanAnyNameIsRefusedInAShortSentence) {
+  const auto error = [](const std::string& text) -> std::string {
+    const std::string file = "x.mof";
+    try {
+      ParseMof(file, text);
+    } catch (const MofError& refusal) {
+      return refusal.what();
+    }
+    return "no error";
+  };
+  const std::string reason = "a word of more than 255 characters";
+  EXPECT_EQ("no error", error("class " + std::string(255, 'A') + " {};"));
+  EXPECT_EQ("x.mof:1:7: " + reason, error("class " + std::string(256, 'A') + " {};"));
+  EXPECT_EQ("x.mof:1:22: " + reason, error("class A { real32 P = 1." + std::string(300, '0')));
+  EXPECT_EQ("x.mof:1:21: " + reason, error("class A { uint8 P = " + std::string(5000, '1')));
 }
 
 }  // namespace
