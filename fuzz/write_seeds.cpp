@@ -1,5 +1,5 @@
-// write_seeds FOLDER: writes the inputs that the search begins with, a folder for each kind, in the forms
-// that the project itself writes. The samples and the schema are inputs as they stand.
+// write_seeds FOLDER: writes the inputs that the search begins with, a folder for each kind, in the
+// forms that the project itself writes. The samples and the schema are inputs as they stand.
 
 #include <array>
 #include <cstdint>
@@ -68,6 +68,11 @@ void WriteTables(const std::filesystem::path& folder) {
         Joined({testing::EntryPoint32(static_cast<uint16_t>(table.size()), 12), table})));
     storeFiles.Add(
         store::FormatStoreFile(*store::ParseFirmwareDump(testing::TextOf(dump), "seed")));
+  }
+  // Bare headers at the end of a file: reading a field that is not there reads past the file.
+  for (const uint8_t type : ByteVector{0, 1, 2, 3, 4, 8, 9, 17, 21, 39}) {
+    dumps.Add(testing::TextOf(
+        Joined({testing::EntryPoint32(6, 1), WithStrings({type, 4, type, 0}, {})})));
   }
 }
 
