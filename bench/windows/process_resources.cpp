@@ -4,6 +4,8 @@
 
 #include <psapi.h>
 
+#include "tests/support/windows/open_handles.h"
+
 namespace tqcim::bench {
 
 size_t MemoryInUse() {
@@ -13,15 +15,8 @@ size_t MemoryInUse() {
   return counters.PrivateUsage;
 }
 
-/// One by one: Wine counts none when it is asked for their number.
 size_t OpenHandles() {
-  constexpr uintptr_t kBeyondAnyHandle = 0x8000;
-  size_t count = 0;
-  for (uintptr_t handle = 4; handle < kBeyondAnyHandle; handle += 4) {
-    DWORD flags = 0;
-    if (GetHandleInformation(reinterpret_cast<HANDLE>(handle), &flags)) ++count;
-  }
-  return count;
+  return testing::CountOpenHandles();
 }
 
 }  // namespace tqcim::bench

@@ -6,6 +6,7 @@
 
 #include "platform/com.h"
 #include "tests/core/windows/loaded_module.h"
+#include "tests/support/windows/open_handles.h"
 
 namespace tqcim::testing {
 namespace {
@@ -80,17 +81,6 @@ struct Holdings {
   size_t bytes = 0;
 };
 
-/// Handles are counted one by one: Wine counts none when it is asked for their number.
-size_t CountHandles() {
-  constexpr uintptr_t kBeyondAnyHandle = 0x8000;
-  size_t count = 0;
-  for (uintptr_t handle = 4; handle < kBeyondAnyHandle; handle += 4) {
-    DWORD flags = 0;
-    if (GetHandleInformation(reinterpret_cast<HANDLE>(handle), &flags)) ++count;
-  }
-  return count;
-}
-
 Holdings Measure() {
   Holdings holdings;
   std::array<HANDLE, 64> heaps{};
@@ -105,7 +95,7 @@ Holdings Measure() {
     }
     HeapUnlock(heaps[i]);
   }
-  holdings.handles = CountHandles();
+  holdings.handles = CountOpenHandles();
   return holdings;
 }
 
