@@ -1,7 +1,9 @@
 #include "core/object_path.h"
 
+#include <algorithm>
 #include <iterator>
 #include <string>
+#include <string_view>
 
 #include "core/computer_name.h"
 #include "platform/libraries.h"
@@ -9,20 +11,22 @@
 namespace tqcim {
 namespace {
 
+using WideView = std::basic_string_view<OLECHAR>;
+
 /// Appends to a fixed buffer and keeps the terminator.
 class PathWriter {
  public:
   explicit PathWriter(ObjectPath& path) : next_(path.text), last_(std::end(path.text) - 1) {}
 
-  void Append(OLECHAR c) {
-    if (next_ != last_) *next_++ = c;
+  template <typename Char>
+  void Append(std::basic_string_view<Char> text) {
+    const auto fitting = std::min(text.size(), static_cast<size_t>(last_ - next_));
+    next_ = std::copy_n(text.begin(), fitting, next_);
   }
   void Append(const OLECHAR* text) {
-    for (; text && *text; ++text) Append(*text);
+    if (text) Append(WideView(text));
   }
-  void Append(int32_t number) {
-    for (const char digit : std::to_string(number)) Append(static_cast<OLECHAR>(digit));
-  }
+  void Append(int32_t number) { Append(std::string_view(std::to_string(number))); }
 
  private:
   OLECHAR* next_;
@@ -36,14 +40,14 @@ ObjectPath FormatObjectPath(
   ObjectPath path;
   PathWriter writer(path);
   auto argument = arguments.begin();
-  for (; *format; ++format) {
-    if (*format != OLECHAR{'%'}) {
-      writer.Append(*format);
-      continue;
-    }
-    ++format;
+  WideView rest(format);
+  for (size_t place = rest.find(OLECHAR{'%'}); place != WideView::npos;
+       place = rest.find(OLECHAR{'%'})) {
+    writer.Append(rest.substr(0, place));
     std::visit([&](auto value) { writer.Append(value); }, *argument++);
+    rest.remove_prefix(place + 2);
   }
+  writer.Append(rest);
   return path;
 }
 

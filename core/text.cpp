@@ -1,5 +1,7 @@
 #include "core/text.h"
 
+#include <iterator>
+
 namespace tqcim {
 namespace {
 
@@ -24,6 +26,12 @@ int32_t ScanDecimalText(const Char* text) {
 
 Bstr NarrowToBstr(const char* text) {
   if (!text) return {};
+  // Hardly a text is longer than this: one conversion does, where others need one to be measured.
+  OLECHAR few[128];
+  const int fewLength = MultiByteToWideChar(CP_ACP, 0, text, -1, few, std::size(few));
+  if (fewLength > 0) {
+    return Bstr::Adopt(SysAllocStringLen(few, static_cast<UINT>(fewLength - 1)));
+  }
   const int length = MultiByteToWideChar(CP_ACP, 0, text, -1, nullptr, 0);
   if (length <= 0) return {};
   Bstr converted = Bstr::Adopt(SysAllocStringLen(nullptr, static_cast<UINT>(length - 1)));

@@ -11,17 +11,18 @@ namespace {
 
 void CheckClass(const host::Schema& schema, const host::ClassDefinition& definition) {
   fuzz::Check(schema.Find(definition.name) == &definition, "a class is found by its name");
-  for (const host::PropertyDefinition& property : definition.properties) {
-    fuzz::Check(definition.Find(property.name) == &property, "a property is found by its name");
-    fuzz::Check(schema.Find(property.origin) != nullptr, "a property comes from a class");
+  for (const auto& property : definition.properties) {
+    fuzz::Check(definition.Find(property->name) == property.get(),
+                "a property is found by its name");
+    fuzz::Check(schema.Find(property->origin) != nullptr, "a property comes from a class");
   }
   if (definition.superclass.empty()) return;
   const host::ClassDefinition* superclass = schema.Find(definition.superclass);
   fuzz::Check(superclass != nullptr, "a superclass is there");
-  for (const host::PropertyDefinition& property : superclass->properties) {
-    const host::PropertyDefinition* inherited = definition.Find(property.name);
-    fuzz::Check(inherited != nullptr && inherited->TypeText() == property.TypeText() &&
-                    inherited->origin == property.origin,
+  for (const auto& property : superclass->properties) {
+    const host::PropertyDefinition* inherited = definition.Find(property->name);
+    fuzz::Check(inherited != nullptr && inherited->TypeText() == property->TypeText() &&
+                    inherited->origin == property->origin,
                 "a property is inherited as it is");
   }
 }

@@ -1,6 +1,7 @@
 #include "host/cim_variant.h"
 
 #include <charconv>
+#include <cstdint>
 #include <cstring>
 #include <optional>
 
@@ -46,7 +47,7 @@ class Elements {
     SafeArrayGetUBound(array_, 1, &upper);
     SafeArrayAccessData(array_, &data);
     data_ = data;
-    count_ = static_cast<size_t>(upper - lower + 1);
+    count_ = static_cast<size_t>(int64_t{upper} - lower + 1);
   }
   ~Elements() {
     if (array_) SafeArrayUnaccessData(array_);
@@ -207,7 +208,7 @@ OwnedVariant ToVariant(const Value& value, CimType type, bool array) {
   if (!array) {
     Store(*ToScalar(value), ElementType(type), &V_UI1(&variant));
   } else {
-    const Array& elements = std::get<Array>(value);
+    const auto& elements = std::get<Array>(value);
     SAFEARRAY* stored =
         SafeArrayCreateVector(ElementType(type), 0, static_cast<ULONG>(elements.size()));
     if (!stored) return variant;

@@ -10,27 +10,13 @@
 namespace tqcim::host {
 namespace {
 
-const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::string_view name) {
-  const auto found =
-      std::find_if(qualifiers.begin(), qualifiers.end(),
-                   [name](const Qualifier& qualifier) { return EqualNames(qualifier.name, name); });
-  return found == qualifiers.end() ? nullptr : &*found;
-}
-
-/// The text of a qualifier; empty without it.
-std::string QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name) {
-  const Qualifier* qualifier = FindQualifier(qualifiers, name);
-  const auto* text = qualifier ? std::get_if<std::string>(&qualifier->value) : nullptr;
-  return text ? *text : std::string();
-}
-
 bool QualifierIsSet(const std::vector<Qualifier>& qualifiers, std::string_view name) {
   const Qualifier* qualifier = FindQualifier(qualifiers, name);
   const auto* set = qualifier ? std::get_if<bool>(&qualifier->value) : nullptr;
   return set && *set;
 }
 
-PropertyDefinition OwnProperty(const ParsedProperty& parsed, const std::string& class_name) {
+PropertyDefinition OwnProperty(ParsedProperty parsed, const std::string& class_name) {
   PropertyDefinition property;
   property.name = parsed.name;
   property.type = parsed.type;
@@ -38,10 +24,8 @@ PropertyDefinition OwnProperty(const ParsedProperty& parsed, const std::string& 
   property.key = QualifierIsSet(parsed.qualifiers, "Key");
   property.reference_class = parsed.reference_class;
   property.origin = class_name;
-  property.description = QualifierText(parsed.qualifiers, "Description");
-  property.units = QualifierText(parsed.qualifiers, "Units");
-  property.default_value = parsed.default_value;
-  property.qualifiers = parsed.qualifiers;
+  property.default_value = std::move(parsed.default_value);
+  property.qualifiers = std::move(parsed.qualifiers);
   return property;
 }
 
@@ -54,8 +38,6 @@ PropertyDefinition Overridden(const PropertyDefinition& inherited, PropertyDefin
   }
   own.key = own.key || inherited.key;
   own.origin = inherited.origin;
-  if (own.description.empty()) own.description = inherited.description;
-  if (own.units.empty()) own.units = inherited.units;
   if (IsNull(own.default_value)) own.default_value = inherited.default_value;
   for (const Qualifier& qualifier : inherited.qualifiers) {
     if (!FindQualifier(own.qualifiers, qualifier.name)) own.qualifiers.push_back(qualifier);
@@ -65,30 +47,28 @@ PropertyDefinition Overridden(const PropertyDefinition& inherited, PropertyDefin
 
 bool HasKey(const ClassDefinition& definition) {
   return std::any_of(definition.properties.begin(), definition.properties.end(),
-                     [](const PropertyDefinition& property) { return property.key; });
+                     [](const auto& property) { return property->key; });
 }
 
-void AddProperty(ClassDefinition& definition, const ParsedProperty& parsed) {
-  PropertyDefinition own = OwnProperty(parsed, definition.name);
-  const auto inherited = std::find_if(
-      definition.properties.begin(), definition.properties.end(),
-      [&own](const PropertyDefinition& property) { return EqualNames(property.name, own.name); });
-  if (inherited == definition.properties.end()) {
-    definition.properties.push_back(std::move(own));
-  } else {
-    *inherited = Overridden(*inherited, std::move(own), parsed.place);
-  }
+/// The property as the class now has it.
+const PropertyDefinition& AddProperty(ClassDefinition& definition, ParsedProperty parsed) {
+  const std::optional<size_t> index = definition.IndexOf(parsed.name);
+  const MofPlace place = parsed.place;
+  PropertyDefinition own = OwnProperty(std::move(parsed), definition.name);
+  if (index) own = Overridden(*definition.properties[*index], std::move(own), place);
+  auto& added = index ? definition.properties[*index] : definition.properties.emplace_back();
+  added = std::make_shared<const PropertyDefinition>(std::move(own));
+  return *added;
 }
 
-ClassDefinition Build(const ParsedClass& parsed, const ClassDefinition* superclass) {
+ClassDefinition Build(ParsedClass parsed, const ClassDefinition* superclass) {
   ClassDefinition definition;
   definition.name = parsed.name;
-  definition.description = QualifierText(parsed.qualifiers, "Description");
   definition.provider = QualifierText(parsed.qualifiers, "Provider");
   definition.abstract = QualifierIsSet(parsed.qualifiers, "Abstract");
   definition.association = QualifierIsSet(parsed.qualifiers, "Association");
   definition.singleton = QualifierIsSet(parsed.qualifiers, "Singleton");
-  definition.qualifiers = parsed.qualifiers;
+  definition.qualifiers = std::move(parsed.qualifiers);
   if (superclass) {
     definition.superclass = superclass->name;
     definition.association = definition.association || superclass->association;
@@ -96,19 +76,20 @@ ClassDefinition Build(const ParsedClass& parsed, const ClassDefinition* supercla
     definition.properties = superclass->properties;
   }
   const bool keys_are_fixed = superclass && HasKey(*superclass);
-  for (const ParsedProperty& property : parsed.properties) {
-    AddProperty(definition, property);
-    if (!definition.Find(property.name)->key) continue;
+  for (ParsedProperty& parsed_property : parsed.properties) {
+    const MofPlace place = parsed_property.place;
+    const PropertyDefinition& property = AddProperty(definition, std::move(parsed_property));
+    if (!property.key) continue;
     if (property.array || property.type == CimType::kReal32 || property.type == CimType::kReal64) {
-      throw MofError(property.place, "an array or a real number cannot be a key");
+      throw MofError(place, "an array or a real number cannot be a key");
     }
-    if (keys_are_fixed &&
-        !(superclass->Find(property.name) && superclass->Find(property.name)->key)) {
-      throw MofError(property.place,
-                     "class " + parsed.name + " inherits its keys and cannot add " + property.name);
+    const PropertyDefinition* inherited = superclass ? superclass->Find(property.name) : nullptr;
+    if (keys_are_fixed && !(inherited && inherited->key)) {
+      throw MofError(
+          place, "class " + definition.name + " inherits its keys and cannot add " + property.name);
     }
     if (definition.singleton) {
-      throw MofError(property.place, "class " + parsed.name + " is a singleton and has no keys");
+      throw MofError(place, "class " + definition.name + " is a singleton and has no keys");
     }
   }
   return definition;
@@ -117,11 +98,11 @@ ClassDefinition Build(const ParsedClass& parsed, const ClassDefinition* supercla
 /// Builds classes, superclasses first, whatever their order.
 class Builder {
  public:
-  explicit Builder(const std::vector<ParsedClass>& parsed)
-      : parsed_(parsed), built_(parsed.size()) {
-    for (size_t i = 0; i < parsed.size(); ++i) {
-      if (!by_name_.emplace(LowerCase(parsed[i].name), i).second) {
-        throw MofError(parsed[i].place, "class " + parsed[i].name + " stands twice");
+  explicit Builder(std::vector<ParsedClass> parsed)
+      : parsed_(std::move(parsed)), built_(parsed_.size()) {
+    for (size_t i = 0; i < parsed_.size(); ++i) {
+      if (!by_name_.emplace(parsed_[i].name, i).second) {
+        throw MofError(parsed_[i].place, "class " + std::string(parsed_[i].name) + " stands twice");
       }
     }
   }
@@ -139,36 +120,38 @@ class Builder {
     for (std::optional<size_t> next = index; next && !built_[*next]; next = Superclass(*next)) {
       if (std::find(chain.begin(), chain.end(), *next) != chain.end()) {
         throw MofError(parsed_[*next].superclass_place,
-                       "class " + parsed_[*next].name + " is its own superclass");
+                       "class " + std::string(parsed_[*next].name) + " is its own superclass");
       }
       chain.push_back(*next);
     }
-    for (auto next = chain.rbegin(); next != chain.rend(); ++next) {
-      const auto superclass = Superclass(*next);
-      built_[*next] = Build(parsed_[*next], superclass ? &*built_[*superclass] : nullptr);
+    std::reverse(chain.begin(), chain.end());
+    for (const size_t next : chain) {
+      const auto superclass = Superclass(next);
+      built_[next] = Build(std::move(parsed_[next]), superclass ? &*built_[*superclass] : nullptr);
     }
   }
 
   std::optional<size_t> Superclass(size_t index) const {
     const ParsedClass& parsed = parsed_[index];
     if (parsed.superclass.empty()) return std::nullopt;
-    const auto found = by_name_.find(LowerCase(parsed.superclass));
+    const auto found = by_name_.find(parsed.superclass);
     if (found == by_name_.end()) {
-      throw MofError(parsed.superclass_place, "there is no class " + parsed.superclass);
+      throw MofError(parsed.superclass_place,
+                     "there is no class " + std::string(parsed.superclass));
     }
     return found->second;
   }
 
-  const std::vector<ParsedClass>& parsed_;
+  std::vector<ParsedClass> parsed_;  // without its properties once it is built
   std::vector<std::optional<ClassDefinition>> built_;
-  std::map<std::string, size_t> by_name_;
+  std::map<std::string_view, size_t, NameOrder> by_name_;
 };
 
 Value CheckedValue(const ParsedAssignment& assignment, const ClassDefinition& definition) {
   const PropertyDefinition* property = definition.Find(assignment.property);
   if (!property) {
-    throw MofError(assignment.place,
-                   "class " + definition.name + " has no property " + assignment.property);
+    throw MofError(assignment.place, "class " + definition.name + " has no property " +
+                                         std::string(assignment.property));
   }
   const auto value = ConvertToType(assignment.value, property->type, property->array);
   if (!value) {
@@ -179,8 +162,8 @@ Value CheckedValue(const ParsedAssignment& assignment, const ClassDefinition& de
 
 }  // namespace
 
-std::vector<ClassDefinition> BuildClasses(const std::vector<ParsedClass>& parsed) {
-  return Builder(parsed).BuildAll();
+std::vector<ClassDefinition> BuildClasses(std::vector<ParsedClass> parsed) {
+  return Builder(std::move(parsed)).BuildAll();
 }
 
 std::vector<DeclaredInstance> BuildInstances(const std::vector<ParsedInstance>& parsed,
@@ -189,9 +172,9 @@ std::vector<DeclaredInstance> BuildInstances(const std::vector<ParsedInstance>& 
   for (const ParsedInstance& declaration : parsed) {
     const ClassDefinition* definition = schema.Find(declaration.class_name);
     if (!definition && !declaration.class_name.starts_with("__")) {
-      throw MofError(declaration.place, "there is no class " + declaration.class_name);
+      throw MofError(declaration.place, "there is no class " + std::string(declaration.class_name));
     }
-    DeclaredInstance instance{declaration.class_name, {}};
+    DeclaredInstance instance{std::string(declaration.class_name), {}};
     for (const ParsedAssignment& assignment : declaration.assignments) {
       instance.properties.emplace_back(
           assignment.property,

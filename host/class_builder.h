@@ -12,7 +12,7 @@ namespace tqcim::host {
 /// stands twice, a superclass that is missing or goes in a circle, a property declared anew with
 /// another type, a key added below a class that has keys, a key in a singleton, a key that is an
 /// array or a real number.
-std::vector<ClassDefinition> BuildClasses(const std::vector<ParsedClass>& parsed);
+std::vector<ClassDefinition> BuildClasses(std::vector<ParsedClass> parsed);
 
 /// Instances of the platform's own classes ("__...") are taken as they are; those of the schema's
 /// classes have to fit them. Throws MofError.

@@ -72,8 +72,9 @@ const Property* Instance::Find(std::string_view property) const {
 ClassObject::ClassObject(std::shared_ptr<const Schema> schema, const ClassDefinition& definition,
                          Kind kind)
     : schema_(std::move(schema)), definition_(definition), kind_(kind) {
-  for (const PropertyDefinition& property : definition_.properties) {
-    values_.push_back(ToVariant(property.default_value, property.type, property.array));
+  values_.reserve(definition_.properties.size());
+  for (const auto& property : definition_.properties) {
+    values_.push_back(ToVariant(property->default_value, property->type, property->array));
   }
   put_.resize(values_.size());
 }
@@ -98,20 +99,22 @@ HRESULT ClassObject::QueryInterface(REFIID riid, void** object) {
 }
 
 Value ClassObject::PropertyValue(size_t index) const {
-  return ToValue(values_[index], definition_.properties[index]);
+  return ToValue(values_[index], *definition_.properties[index]);
 }
 
 Instance ClassObject::ToInstance() const {
   Instance instance;
   instance.class_name = definition_.name;
   instance.path = RelativePath();
+  instance.properties.reserve(values_.size());
+  instance.put_order.reserve(put_order_.size());
   for (size_t i = 0; i < values_.size(); ++i) {
-    const PropertyDefinition& property = definition_.properties[i];
+    const PropertyDefinition& property = *definition_.properties[i];
     instance.properties.push_back(
         {property.name, property.type, property.array, property.key, put_[i], PropertyValue(i)});
   }
   for (const size_t index : put_order_) {
-    instance.put_order.push_back(definition_.properties[index].name);
+    instance.put_order.push_back(definition_.properties[index]->name);
   }
   return instance;
 }
@@ -122,10 +125,10 @@ std::string ClassObject::RelativePath() const {
   if (kind_ == Kind::kDefinition) return path.class_name;
   path.singleton = definition_.singleton;
   for (size_t i = 0; i < values_.size(); ++i) {
-    if (!definition_.properties[i].key) continue;
+    if (!definition_.properties[i]->key) continue;
     const auto value = ToScalar(PropertyValue(i));
     if (!value) return {};
-    path.keys.push_back({definition_.properties[i].name, *value});
+    path.keys.push_back({definition_.properties[i]->name, *value});
   }
   return path.NamesInstance() ? RelativeText(path) : std::string();
 }
@@ -152,11 +155,11 @@ HRESULT ClassObject::Get(LPCWSTR name, LONG flags, VARIANT* value, CIMTYPE* type
   if (!name || flags != 0) return kInvalidParameter;
   const std::string wanted = ToUtf8(name);
   if (IsSystemName(wanted)) return GetSystemProperty(wanted, value, type, flavor);
-  const PropertyDefinition* property = definition_.Find(wanted);
-  if (!property) return kNotFound;
-  const auto index = static_cast<size_t>(property - definition_.properties.data());
-  const bool local = EqualNames(property->origin, definition_.name);
-  return Deliver(values_[index], CimTypeCode(*property),
+  const std::optional<size_t> index = definition_.IndexOf(wanted);
+  if (!index) return kNotFound;
+  const PropertyDefinition& property = *definition_.properties[*index];
+  const bool local = EqualNames(property.origin, definition_.name);
+  return Deliver(values_[*index], CimTypeCode(property),
                  local ? WBEM_FLAVOR_ORIGIN_LOCAL : WBEM_FLAVOR_ORIGIN_PROPAGATED, value, type,
                  flavor);
 }
@@ -164,21 +167,21 @@ HRESULT ClassObject::Get(LPCWSTR name, LONG flags, VARIANT* value, CIMTYPE* type
 HRESULT ClassObject::Put(LPCWSTR name, LONG flags, VARIANT* value, CIMTYPE type) {
   if (!name || flags != 0) return kInvalidParameter;
   if (kind_ == Kind::kDefinition) return kNotSupported;
-  const auto refuse = [this, name](HRESULT result) {
-    RefusedPuts::Add(definition_.name, ToUtf8(name), result);
+  const std::string wanted = ToUtf8(name);
+  const auto refuse = [&](HRESULT result) {
+    RefusedPuts::Add(definition_.name, wanted, result);
     return result;
   };
-  const PropertyDefinition* property = definition_.Find(ToUtf8(name));
-  if (!property) return refuse(kNotFound);
+  const std::optional<size_t> index = definition_.IndexOf(wanted);
+  if (!index) return refuse(kNotFound);
   OwnedVariant copy;
   V_VT(&copy) = VT_NULL;
-  const HRESULT checked = CheckValue(*property, value ? *value : copy, type);
+  const HRESULT checked = CheckValue(*definition_.properties[*index], value ? *value : copy, type);
   if (FAILED(checked)) return refuse(checked);
   if (value && !StandsForNull(*value) && FAILED(VariantCopy(&copy, value))) return kOutOfMemory;
-  const auto index = static_cast<size_t>(property - definition_.properties.data());
-  values_[index] = std::move(copy);
-  put_[index] = true;
-  put_order_.push_back(index);
+  values_[*index] = std::move(copy);
+  put_[*index] = true;
+  put_order_.push_back(*index);
   return WBEM_S_NO_ERROR;
 }
 
@@ -189,8 +192,8 @@ std::vector<std::string> ClassObject::Names(LONG flags) const {
       !(flags & (WBEM_FLAG_KEYS_ONLY | WBEM_FLAG_REFS_ONLY))) {
     names.assign(kSystemProperties.begin(), kSystemProperties.end());
   }
-  for (const PropertyDefinition& property : definition_.properties) {
-    if (IsWanted(property, definition_, flags)) names.push_back(property.name);
+  for (const auto& property : definition_.properties) {
+    if (IsWanted(*property, definition_, flags)) names.push_back(property->name);
   }
   return names;
 }

@@ -1,5 +1,6 @@
 #include "host/mof_lexer.h"
 
+#include <algorithm>
 #include <charconv>
 
 #include "host/text.h"
@@ -49,13 +50,13 @@ bool ReadInteger(std::string_view digits, bool negative, MofToken& token) {
   return true;
 }
 
-void RequireLength(const std::string& word, const MofPlace& place) {
+void RequireLength(std::string_view word, const MofPlace& place) {
   if (word.size() <= kLongestWord) return;
   throw MofError(place, "a word of more than " + std::to_string(kLongestWord) + " characters");
 }
 
 std::string AsUtf8(char32_t character) {
-  const OLECHAR unit = static_cast<OLECHAR>(character);
+  const auto unit = static_cast<OLECHAR>(character);
   return ToUtf8(WideView(&unit, 1));
 }
 
@@ -73,7 +74,7 @@ std::string MofToken::Describe() const {
   switch (kind) {
     case Kind::kIdentifier:
     case Kind::kPunctuation:
-      return "'" + text + "'";
+      return "'" + std::string(text) + "'";
     case Kind::kText:
       return "a text";
     case Kind::kCharacter:
@@ -87,66 +88,53 @@ std::string MofToken::Describe() const {
   return "the end of the text";
 }
 
-MofLexer::MofLexer(const std::string& file, std::string_view text) : text_(text) {
-  place_.file = &file;
+MofLexer::MofLexer(const std::string& file, std::string_view text) : file_(&file), text_(text) {
   if (text_.starts_with("\xEF\xBB\xBF")) text_.remove_prefix(3);
 }
 
-void MofLexer::Advance() {
-  if (text_[position_] == '\n') {
-    ++place_.line;
-    place_.column = 1;
-  } else {
-    ++place_.column;
-  }
-  ++position_;
-}
-
 void MofLexer::SkipBlanks() {
-  while (!AtEnd()) {
-    const char c = Peek();
-    if (c == ' ' || c == '\t' || c == '\r' || c == '\n') {
-      Advance();
+  for (; !AtEnd(); ++position_) {
+    const char c = text_[position_];
+    if (c == '\n') {
+      ++line_;
+      line_start_ = position_ + 1;
     } else if (c == '/' && (Peek(1) == '/' || Peek(1) == '*')) {
       SkipComment();
-    } else {
+    } else if (c != ' ' && c != '\t' && c != '\r') {
       return;
     }
   }
 }
 
+/// Up to the last character of a comment.
 void MofLexer::SkipComment() {
-  if (Peek(1) == '/') {
-    while (!AtEnd() && Peek() != '\n') Advance();
+  const bool to_line_end = Peek(1) == '/';
+  const size_t end = text_.find(to_line_end ? "\n" : "*/", position_ + 2);
+  if (to_line_end) {
+    position_ = std::min(end, text_.size()) - 1;
     return;
   }
-  const MofPlace start = place_;
-  Advance();
-  Advance();
-  while (!(Peek() == '*' && Peek(1) == '/')) {
-    if (AtEnd()) throw MofError(start, "the comment is not closed");
-    Advance();
+  if (end == std::string_view::npos) throw MofError(Place(), "the comment is not closed");
+  for (; position_ <= end; ++position_) {
+    if (text_[position_] != '\n') continue;
+    ++line_;
+    line_start_ = position_ + 1;
   }
-  Advance();
-  Advance();
 }
 
 MofToken MofLexer::Next() {
   SkipBlanks();
   MofToken token;
-  token.place = place_;
+  token.place = Place();
   if (AtEnd()) return token;
   const char c = Peek();
-  if (IsIdentifierStart(c)) return Identifier(std::move(token));
+  if (IsIdentifierStart(c)) return Identifier(token);
   if (IsDigit(c) || ((c == '+' || c == '-' || c == '.') && IsDigit(Peek(1)))) {
-    return Number(std::move(token));
+    return Number(token);
   }
   if (c == '"') {
     token.kind = MofToken::Kind::kText;
-    while (Peek() == '"') {
-      token.text += QuotedText('"');
-      SkipBlanks();
-    }
+    token.text = JoinedTexts();
     return token;
   }
   if (c == '\'') {
@@ -162,32 +150,32 @@ MofToken MofLexer::Next() {
     throw MofError(token.place, "a character that MOF has no use for");
   }
   token.kind = MofToken::Kind::kPunctuation;
-  token.text = c;
-  Advance();
+  token.text = text_.substr(position_++, 1);
   return token;
 }
 
 MofToken MofLexer::Identifier(MofToken token) {
   token.kind = MofToken::Kind::kIdentifier;
-  while (IsIdentifierStart(Peek()) || IsDigit(Peek())) {
-    token.text += Peek();
-    Advance();
-  }
+  const size_t start = position_;
+  const auto end = std::find_if(text_.begin() + static_cast<std::ptrdiff_t>(position_), text_.end(),
+                                [](char c) { return !IsIdentifierStart(c) && !IsDigit(c); });
+  position_ = static_cast<size_t>(end - text_.begin());
+  token.text = Since(start);
   RequireLength(token.text, token.place);
   return token;
 }
 
 MofToken MofLexer::Number(MofToken token) {
   const bool negative = Peek() == '-';
-  if (negative || Peek() == '+') Advance();
-  std::string digits;
+  if (negative || Peek() == '+') ++position_;
+  const size_t start = position_;
   bool real = false;
   while (IsIdentifierStart(Peek()) || IsDigit(Peek()) || Peek() == '.' ||
-         ((Peek() == '+' || Peek() == '-') && real && (digits.back() | 0x20) == 'e')) {
+         ((Peek() == '+' || Peek() == '-') && real && (text_[position_ - 1] | 0x20) == 'e')) {
     real = real || Peek() == '.';
-    digits += Peek();
-    Advance();
+    ++position_;
   }
+  const std::string_view digits = Since(start);
   RequireLength(digits, token.place);
   if (real) {
     token.kind = MofToken::Kind::kReal;
@@ -201,31 +189,48 @@ MofToken MofLexer::Number(MofToken token) {
     token.kind = MofToken::Kind::kInteger;
     if (ReadInteger(digits, negative, token)) return token;
   }
-  throw MofError(token.place, "'" + digits + "' is not a number that fits 64 bits");
+  throw MofError(token.place, "'" + std::string(digits) + "' is not a number that fits 64 bits");
 }
 
-std::string MofLexer::QuotedText(char quote) {
-  const MofPlace start = place_;
-  Advance();
-  std::string text;
-  while (Peek() != quote) {
-    if (AtEnd() || Peek() == '\n') throw MofError(start, "the text is not closed on its line");
-    if (Peek() == '\\') {
-      text += AsUtf8(EscapedCharacter());
-    } else {
-      text += Peek();
-      Advance();
-    }
+std::string_view MofLexer::JoinedTexts() {
+  const std::string_view first = QuotedText('"');
+  SkipBlanks();
+  if (Peek() != '"') return first;
+  std::string& joined = composed_.emplace_back(first);
+  for (; Peek() == '"'; SkipBlanks()) joined += QuotedText('"');
+  return joined;
+}
+
+void MofLexer::SkipPlainText(char quote) {
+  const auto stop =
+      std::find_if(text_.begin() + static_cast<std::ptrdiff_t>(position_), text_.end(),
+                   [quote](char c) { return c == quote || c == '\\' || c == '\n'; });
+  position_ = static_cast<size_t>(stop - text_.begin());
+}
+
+std::string_view MofLexer::QuotedText(char quote) {
+  const MofPlace place = Place();
+  const size_t start = ++position_;
+  std::string* unescaped = nullptr;
+  size_t piece = start;
+  for (SkipPlainText(quote); Peek() != quote; SkipPlainText(quote)) {
+    if (Peek() != '\\') throw MofError(place, "the text is not closed on its line");
+    if (!unescaped) unescaped = &composed_.emplace_back();
+    *unescaped += Since(piece);
+    *unescaped += AsUtf8(EscapedCharacter());
+    piece = position_;
   }
-  Advance();
-  return text;
+  const std::string_view last = Since(piece);
+  ++position_;
+  if (!unescaped) return last;
+  return *unescaped += last;
 }
 
 char32_t MofLexer::EscapedCharacter() {
-  const MofPlace start = place_;
-  Advance();
+  const MofPlace start = Place();
+  ++position_;
   const char c = Peek();
-  if (!AtEnd()) Advance();
+  if (!AtEnd()) ++position_;
   switch (c) {
     case 'b':
       return '\b';
@@ -247,7 +252,7 @@ char32_t MofLexer::EscapedCharacter() {
   std::string digits;
   while ((c == 'x' || c == 'X') && digits.size() < 4 && IsHexDigit(Peek())) {
     digits += Peek();
-    Advance();
+    ++position_;
   }
   if (digits.empty()) throw MofError(start, "MOF has no such escape");
   uint32_t value = 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -27,7 +28,8 @@ struct MofToken {
   Kind kind = Kind::kEnd;
   MofPlace place;
   /// The identifier or the punctuation character as written; a text without quotes and escapes.
-  std::string text;
+  /// The lexer's, or its text's.
+  std::string_view text;
   /// Of kCharacter and kInteger the value: int64_t, or uint64_t for what is larger; of kReal a
   /// double.
   std::variant<int64_t, uint64_t, double> number;
@@ -41,7 +43,8 @@ struct MofToken {
   std::string Describe() const;
 };
 
-/// Splits a text into tokens, one at a time. `file` and `text` outlive the lexer and its tokens.
+/// Splits a text into tokens, one at a time. `file` and `text` outlive the lexer, which outlives
+/// its tokens.
 class MofLexer {
  public:
   MofLexer(const std::string& file, std::string_view text);
@@ -55,17 +58,26 @@ class MofLexer {
     return position_ + ahead < text_.size() ? text_[position_ + ahead] : '\0';
   }
   bool AtEnd() const { return position_ >= text_.size(); }
-  void Advance();
+  MofPlace Place() const { return {file_, line_, static_cast<int>(position_ - line_start_) + 1}; }
+  /// What stands between a position that has been passed and this one.
+  std::string_view Since(size_t start) const { return text_.substr(start, position_ - start); }
   void SkipBlanks();
   void SkipComment();
-  std::string QuotedText(char quote);
+  std::string_view JoinedTexts();
+  std::string_view QuotedText(char quote);
+  /// Goes on to the quote, a backslash or the end of the line.
+  void SkipPlainText(char quote);
   char32_t EscapedCharacter();
   MofToken Identifier(MofToken token);
   MofToken Number(MofToken token);
 
+  const std::string* file_;
   std::string_view text_;
   size_t position_ = 0;
-  MofPlace place_;
+  size_t line_start_ = 0;
+  int line_ = 1;
+  /// Texts that don't stand in one piece in the source.
+  std::deque<std::string> composed_;
 };
 
 }  // namespace tqcim::host

@@ -1,5 +1,6 @@
 #include "host/mof_parser.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -33,7 +34,7 @@ class Parser {
   void Expect(char punctuation) {
     if (!TakeIf(punctuation)) Refuse(std::string("'") + punctuation + "'");
   }
-  std::string ExpectName(const std::string& what) {
+  std::string_view ExpectName(const char* what) {
     if (token_.kind != MofToken::Kind::kIdentifier) Refuse(what);
     return Take().text;
   }
@@ -68,11 +69,10 @@ class Parser {
   std::vector<Qualifier> QualifierList() {
     std::vector<Qualifier> qualifiers;
     if (!TakeIf('[')) return qualifiers;
-    std::set<std::string> names;
     do {
       const MofPlace place = token_.place;
-      Qualifier qualifier{ExpectName("the name of a qualifier"), true};
-      if (!names.insert(LowerCase(qualifier.name)).second) {
+      Qualifier qualifier{std::string(ExpectName("the name of a qualifier")), true};
+      if (FindQualifier(qualifiers, qualifier.name)) {
         throw MofError(place, "qualifier " + qualifier.name + " stands twice");
       }
       if (TakeIf('(')) {
@@ -100,11 +100,11 @@ class Parser {
       parsed.superclass = ExpectName("the name of the superclass");
     }
     Expect('{');
-    std::set<std::string> names;
     while (!TakeIf('}')) {
       ParsedProperty property = PropertyDeclaration();
-      if (!names.insert(LowerCase(property.name)).second) {
-        throw MofError(property.place, "property " + property.name + " stands twice");
+      if (std::any_of(parsed.properties.begin(), parsed.properties.end(),
+                      [&](const auto& before) { return EqualNames(before.name, property.name); })) {
+        throw MofError(property.place, "property " + std::string(property.name) + " stands twice");
       }
       parsed.properties.push_back(std::move(property));
     }
@@ -116,7 +116,7 @@ class Parser {
     ParsedProperty property;
     property.qualifiers = QualifierList();
     const MofPlace type_place = token_.place;
-    const std::string type_name = ExpectName("the type of a property or '}'");
+    const std::string_view type_name = ExpectName("the type of a property or '}'");
     if (token_.IsWord("ref")) {
       Take();
       property.type = CimType::kReference;
@@ -124,7 +124,7 @@ class Parser {
     } else if (const auto type = TypeOfName(type_name)) {
       property.type = *type;
     } else {
-      throw MofError(type_place, type_name + " is not a CIM type");
+      throw MofError(type_place, std::string(type_name) + " is not a CIM type");
     }
     property.place = token_.place;
     property.name = ExpectName("the name of a property");
@@ -138,7 +138,9 @@ class Parser {
       const MofPlace place = token_.place;
       const Value value = AnyValue();
       const auto converted = ConvertToType(value, property.type, property.array);
-      if (!converted) throw MofError(place, "the value is not of the type of " + property.name);
+      if (!converted) {
+        throw MofError(place, "the value is not of the type of " + std::string(property.name));
+      }
       property.default_value = *converted;
     }
     Expect(';');
@@ -155,7 +157,7 @@ class Parser {
     if (token_.IsWord("as")) {
       Take();
       Expect('$');
-      aliases_.insert(ExpectName("the name of an alias"));
+      aliases_.emplace(ExpectName("the name of an alias"));
     }
     Expect('{');
     while (!TakeIf('}')) {
@@ -191,7 +193,7 @@ class Parser {
   Value SingleValue() {
     switch (token_.kind) {
       case MofToken::Kind::kText:
-        return Take().text;
+        return std::string(Take().text);
       case MofToken::Kind::kCharacter:
       case MofToken::Kind::kInteger:
       case MofToken::Kind::kReal:
@@ -209,7 +211,7 @@ class Parser {
 
   Value Alias() {
     const MofPlace place = token_.place;
-    std::string name = ExpectName("the name of an alias");
+    const std::string name(ExpectName("the name of an alias"));
     if (!aliases_.contains(name)) throw MofError(place, "alias $" + name + " is not declared");
     return "$" + name;
   }

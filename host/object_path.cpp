@@ -73,7 +73,7 @@ class Parser {
         if (AtEnd()) Refuse("a class should follow the colon");
         return;
       }
-    } while (IsSlash(Peek()) && ++position_ > 0);
+    } while (TakeIf('\\') || TakeIf('/'));
     // Without its server the path would be read as that of a class with keys.
     if (!AtEnd()) Refuse("a namespace can't have this character in its name");
   }

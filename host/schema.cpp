@@ -24,17 +24,47 @@ std::string ReadFile(const std::filesystem::path& path) {
 
 }  // namespace
 
+const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::string_view name) {
+  const auto found =
+      std::find_if(qualifiers.begin(), qualifiers.end(),
+                   [name](const Qualifier& qualifier) { return EqualNames(qualifier.name, name); });
+  return found == qualifiers.end() ? nullptr : &*found;
+}
+
+std::string_view QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name) {
+  const Qualifier* qualifier = FindQualifier(qualifiers, name);
+  const auto* text = qualifier ? std::get_if<std::string>(&qualifier->value) : nullptr;
+  return text ? std::string_view(*text) : std::string_view();
+}
+
+std::string_view PropertyDefinition::Description() const {
+  return QualifierText(qualifiers, "Description");
+}
+
+std::string_view PropertyDefinition::Units() const {
+  return QualifierText(qualifiers, "Units");
+}
+
+std::string_view ClassDefinition::Description() const {
+  return QualifierText(qualifiers, "Description");
+}
+
 std::string PropertyDefinition::TypeText() const {
   std::string text(TypeName(type));
   if (type == CimType::kReference) text += " " + reference_class;
   return array ? text + "[]" : text;
 }
 
+std::optional<size_t> ClassDefinition::IndexOf(std::string_view property) const {
+  for (size_t i = 0; i < properties.size(); ++i) {
+    if (EqualNames(properties[i]->name, property)) return i;
+  }
+  return std::nullopt;
+}
+
 const PropertyDefinition* ClassDefinition::Find(std::string_view property) const {
-  const auto found = std::find_if(
-      properties.begin(), properties.end(),
-      [property](const auto& definition) { return EqualNames(definition.name, property); });
-  return found == properties.end() ? nullptr : &*found;
+  const std::optional<size_t> index = IndexOf(property);
+  return index ? properties[*index].get() : nullptr;
 }
 
 Schema Schema::Embedded() {
@@ -71,16 +101,16 @@ Schema Schema::FromSources(std::span<const Source> sources) {
               std::back_inserter(document.instances));
   }
   Schema schema;
-  schema.classes_ = BuildClasses(document.classes);
+  schema.classes_ = BuildClasses(std::move(document.classes));
   for (size_t i = 0; i < schema.classes_.size(); ++i) {
-    schema.by_name_.emplace(LowerCase(schema.classes_[i].name), i);
+    schema.by_name_.emplace(schema.classes_[i].name, i);
   }
   schema.instances_ = BuildInstances(document.instances, schema);
   return schema;
 }
 
 const ClassDefinition* Schema::Find(std::string_view class_name) const {
-  const auto found = by_name_.find(LowerCase(class_name));
+  const auto found = by_name_.find(class_name);
   return found == by_name_.end() ? nullptr : &classes_[found->second];
 }
 

@@ -3,11 +3,14 @@
 
 #include <filesystem>
 #include <map>
+#include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/text.h"
 #include "host/value.h"
 
 namespace tqcim::host {
@@ -39,6 +42,11 @@ struct Qualifier {
   Value value;  ///< `true` where MOF gives no value
 };
 
+/// The qualifier of that name in any case, or null.
+const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::string_view name);
+/// Its text; empty without it.
+std::string_view QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name);
+
 /// One property of a class, its own or inherited.
 struct PropertyDefinition {
   std::string name;
@@ -47,30 +55,37 @@ struct PropertyDefinition {
   bool key = false;
   std::string reference_class;  ///< of a reference, the class that it points to
   std::string origin;           ///< the class that declares the property first
-  std::string description;
-  std::string units;
   Value default_value;
   std::vector<Qualifier> qualifiers;
+
+  /// The texts of these qualifiers; empty without them.
+  std::string_view Description() const;
+  std::string_view Units() const;
 
   /// The type as people read it: "uint32", "uint32[]", "ref CIM_Fan".
   std::string TypeText() const;
 };
 
 /// One class. `properties` holds the inherited ones first, from the root class down, each in the
-/// order of its declaration; a property that is declared again keeps its first place.
+/// order of its declaration; a property that is declared again keeps its first place. One that is
+/// not is the superclass's own.
 struct ClassDefinition {
   std::string name;
   std::string superclass;  ///< empty for a root class
-  std::string description;
-  std::string provider;  ///< the name of the provider that serves the class; empty for none
+  std::string provider;    ///< the name of the provider that serves the class; empty for none
   bool abstract = false;
   bool association = false;
   bool singleton = false;
-  std::vector<PropertyDefinition> properties;
+  std::vector<std::shared_ptr<const PropertyDefinition>> properties;
   std::vector<Qualifier> qualifiers;
+
+  /// The text of the qualifier; empty without it.
+  std::string_view Description() const;
 
   /// The property of that name in any case, or null.
   const PropertyDefinition* Find(std::string_view property) const;
+  /// Its place in `properties`.
+  std::optional<size_t> IndexOf(std::string_view property) const;
 };
 
 /// An instance that MOF text declares ("instance of CLASS { ... };").
@@ -108,7 +123,7 @@ class Schema {
  private:
   std::vector<ClassDefinition> classes_;
   std::vector<DeclaredInstance> instances_;
-  std::map<std::string, size_t, std::less<>> by_name_;  // by lower-case name
+  std::map<std::string, size_t, NameOrder> by_name_;
 };
 
 }  // namespace tqcim::host

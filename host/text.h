@@ -23,4 +23,10 @@ std::string ToUtf8(WideView wide);
 std::string LowerCase(std::string_view text);
 bool EqualNames(std::string_view a, std::string_view b);
 
+/// An order of names in which those that differ in case alone are one.
+struct NameOrder {
+  using is_transparent = void;
+  bool operator()(std::string_view a, std::string_view b) const;
+};
+
 }  // namespace tqcim::host

@@ -32,8 +32,8 @@ std::string Line(std::span<const Field> fields) {
 
 std::string CsvText(const Listing& listing) {
   std::vector<Field> header;
-  for (const host::PropertyDefinition& property : listing.definition->properties) {
-    header.emplace_back(property.name);
+  for (const auto& property : listing.definition->properties) {
+    header.emplace_back(property->name);
   }
   std::string text = Line(header);
   for (const host::Instance& instance : listing.instances) {

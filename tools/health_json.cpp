@@ -29,7 +29,7 @@ Json Records(const std::vector<LogEntry>& records) {
 
 Json UnitOf(const Finding& finding) {
   const host::PropertyDefinition* reading = finding.definition->Find("CurrentReading");
-  return reading == nullptr ? Json() : TextOrNull(reading->units);
+  return reading == nullptr ? Json() : TextOrNull(std::string(reading->Units()));
 }
 
 /// Null for a class without thresholds.

@@ -1,5 +1,6 @@
 #include "tools/health_reading.h"
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -39,12 +40,11 @@ constexpr Side kSides[] = {{kUpper, " at or above ", true}, {kLower, " at or bel
 
 bool IsCrossed(const Finding& finding, const Side& side) {
   const std::optional<int64_t> reading = NumberOf(finding, "CurrentReading");
-  for (const std::string_view property : side.thresholds) {
+  return std::ranges::any_of(side.thresholds, [&](std::string_view property) {
     const std::optional<int64_t> threshold = NumberOf(finding, property);
-    if (!reading || !IsSet(threshold)) continue;
-    if (side.upper ? *reading >= *threshold : *reading <= *threshold) return true;
-  }
-  return false;
+    if (!reading || !IsSet(threshold)) return false;
+    return side.upper ? *reading >= *threshold : *reading <= *threshold;
+  });
 }
 
 std::string ThresholdTexts(const Finding& finding, const Side& side) {

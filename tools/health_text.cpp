@@ -43,8 +43,7 @@ std::string Detail(const std::string& text, const Layout& layout) {
 /// "2026-11-17 03:12:09" of CIM's "20261117031209.000000+000".
 std::string TimeText(const std::string& time) {
   constexpr size_t kDigits = 14;
-  constexpr const char* kNone = "(without a time)   ";
-  if (time.size() < kDigits) return kNone;
+  if (time.size() < kDigits) return "(without a time)   ";
   return time.substr(0, 4) + "-" + time.substr(4, 2) + "-" + time.substr(6, 2) + " " +
          time.substr(8, 2) + ":" + time.substr(10, 2) + ":" + time.substr(12, 2);
 }

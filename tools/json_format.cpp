@@ -8,15 +8,19 @@ Json ScalarJson(const host::Scalar& scalar) {
   return std::visit([](const auto& held) { return Json(held); }, scalar);
 }
 
+/// The names of an instance's properties differ: none is looked up among those before.
+Json InstanceJson(const host::Instance& instance) {
+  Json::object_t object;
+  object.reserve(instance.properties.size());
+  for (const host::Property& property : instance.properties) {
+    object.push_back({property.name, ToJson(property.value)});
+  }
+  return object;
+}
+
 Json InstancesJson(const std::vector<host::Instance>& instances) {
   Json array = Json::array();
-  for (const host::Instance& instance : instances) {
-    Json object = Json::object();
-    for (const host::Property& property : instance.properties) {
-      object.emplace(property.name, ToJson(property.value));
-    }
-    array.push_back(std::move(object));
-  }
+  for (const host::Instance& instance : instances) array.push_back(InstanceJson(instance));
   return array;
 }
 
@@ -51,9 +55,10 @@ std::string JsonText(const std::vector<ClassSummary>& classes) {
 }
 
 std::string JsonText(const std::vector<ClassInstances>& classes) {
-  Json document = Json::object();
+  Json::object_t document;
+  document.reserve(classes.size());
   for (const ClassInstances& one : classes) {
-    document.emplace(one.name, one.instances ? InstancesJson(*one.instances) : Json());
+    document.push_back({one.name, one.instances ? InstancesJson(*one.instances) : Json()});
   }
   return DocumentText(document);
 }

@@ -37,7 +37,7 @@ bool Differs(const Listing& listing, size_t position) {
 /// Keys, Status, Name, what the class itself declares, what it inherits.
 Positions PutInOrder(Positions positions, const host::ClassDefinition& definition) {
   const auto rank = [&definition](size_t position) {
-    const host::PropertyDefinition& property = definition.properties[position];
+    const host::PropertyDefinition& property = *definition.properties[position];
     if (property.key) return 0;
     if (property.name == kStatus) return 1;
     if (property.name == "Name") return 2;
@@ -65,7 +65,7 @@ struct Columns {
 Columns ChooseColumns(const Listing& listing) {
   Columns columns;
   for (const size_t position : AllPositions(*listing.definition)) {
-    const host::PropertyDefinition& property = listing.definition->properties[position];
+    const host::PropertyDefinition& property = *listing.definition->properties[position];
     const bool status =
         property.name == kStatus && !host::IsNull(ValueOf(listing.instances.front(), position));
     if (!status && !Differs(listing, position)) {
@@ -81,11 +81,11 @@ Columns ChooseColumns(const Listing& listing) {
 Table MakeTable(const Listing& listing, const Positions& positions) {
   const auto& properties = listing.definition->properties;
   Table table;
-  for (const size_t position : positions) table.headings.push_back(properties[position].name);
+  for (const size_t position : positions) table.headings.push_back(properties[position]->name);
   for (const host::Instance& instance : listing.instances) {
     std::vector<std::string>& row = table.rows.emplace_back();
     for (const size_t position : positions) {
-      row.push_back(CellText(ValueOf(instance, position), properties[position], ReadableText));
+      row.push_back(CellText(ValueOf(instance, position), *properties[position], ReadableText));
     }
   }
   return table;
@@ -107,12 +107,12 @@ std::string PropertyLines(const host::Instance& instance, const Positions& posit
   size_t name_width = 0;
   for (const size_t i : positions) {
     if (host::IsNull(ValueOf(instance, i))) continue;
-    name_width = std::max(name_width, definition.properties[i].name.size());
+    name_width = std::max(name_width, definition.properties[i]->name.size());
   }
   const size_t indent = 2 + name_width + 2;
   std::string text;
   for (const size_t i : positions) {
-    const host::PropertyDefinition& property = definition.properties[i];
+    const host::PropertyDefinition& property = *definition.properties[i];
     if (host::IsNull(ValueOf(instance, i))) continue;
     std::string value = Wrapped(CellText(ValueOf(instance, i), property, ReadableTextWithUnits),
                                 indent, layout.width);
@@ -129,10 +129,10 @@ bool HasCutReferences(const Listing& listing, const Layout& layout) {
   const auto& properties = listing.definition->properties;
   size_t total = 0;
   for (size_t i = 0; i < properties.size(); ++i) {
-    if (properties[i].type != host::CimType::kReference) continue;
+    if (properties[i]->type != host::CimType::kReference) continue;
     size_t width = 0;
     for (const host::Instance& instance : listing.instances) {
-      const std::string cell = CellText(ValueOf(instance, i), properties[i], ReadableText);
+      const std::string cell = CellText(ValueOf(instance, i), *properties[i], ReadableText);
       width = std::max(width, ColumnCount(cell));
     }
     total += width + (total > 0 ? kColumnGap : 0);

@@ -34,10 +34,8 @@ std::string ScalarText(const host::Scalar& scalar) {
 
 /// The texts of a qualifier that is an array of them, or null.
 const host::Array* ListOf(const host::PropertyDefinition& property, std::string_view qualifier) {
-  for (const host::Qualifier& candidate : property.qualifiers) {
-    if (candidate.name == qualifier) return std::get_if<host::Array>(&candidate.value);
-  }
-  return nullptr;
+  const host::Qualifier* found = host::FindQualifier(property.qualifiers, qualifier);
+  return found ? std::get_if<host::Array>(&found->value) : nullptr;
 }
 
 /// What a code stands for, by the class's ValueMap and Values; empty where they don't tell.
@@ -66,14 +64,14 @@ std::string BinaryUnits(uint64_t bytes) {
 std::string MeaningOf(const host::Scalar& scalar, const host::PropertyDefinition& property) {
   if (std::holds_alternative<std::string>(scalar)) return {};
   const auto* number = std::get_if<uint64_t>(&scalar);
-  if (number != nullptr && property.units == "Bytes") return BinaryUnits(*number);
+  if (number != nullptr && property.Units() == "Bytes") return BinaryUnits(*number);
   return ListedMeaning(ScalarText(scalar), property);
 }
 
 std::string ReadableScalar(const host::Scalar& scalar, const host::PropertyDefinition& property,
                            bool with_units) {
   std::string readable = ScalarText(scalar);
-  if (with_units && !property.units.empty()) readable += " " + property.units;
+  if (with_units && !property.Units().empty()) readable += ' ' + std::string(property.Units());
   const std::string meaning = MeaningOf(scalar, property);
   if (!meaning.empty()) readable += " (" + meaning + ")";
   return Printable(readable);

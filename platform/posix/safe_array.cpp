@@ -1,5 +1,6 @@
 #include <oleauto.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <span>
@@ -79,8 +80,9 @@ SAFEARRAY* SafeArrayCreate(VARTYPE type, UINT dimensions, SAFEARRAYBOUND* bounds
   const ULONG elementSize = ElementSize(type);
   if (elementSize == 0 || dimensions != 1 || bounds == nullptr) return nullptr;
   auto* block = static_cast<Block*>(std::calloc(1, sizeof(Block)));
-  void* data = std::calloc(bounds->cElements, elementSize);
-  if (block == nullptr || (data == nullptr && bounds->cElements != 0)) {
+  // An array without elements has a place for them, too.
+  void* data = std::calloc(std::max<ULONG>(bounds->cElements, 1), elementSize);
+  if (block == nullptr || data == nullptr) {
     std::free(block);
     std::free(data);
     return nullptr;

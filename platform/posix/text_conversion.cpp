@@ -1,9 +1,11 @@
 #include <windows.h>
 
+#include <algorithm>
 #include <cstring>
 #include <limits>
 #include <span>
 #include <string>
+#include <type_traits>
 
 namespace {
 
@@ -18,6 +20,14 @@ class Output {
   void Put(char32_t unit) {
     if (length_ < room_) text_[length_] = static_cast<Unit>(unit);
     ++length_;
+  }
+
+  /// Units that are the same in both forms.
+  template <typename Other>
+  void PutAll(std::span<const Other> units) {
+    const size_t fitting = std::min(units.size(), room_ - std::min(room_, length_));
+    for (size_t i = 0; i < fitting; ++i) text_[length_ + i] = static_cast<Unit>(units[i]);
+    length_ += units.size();
   }
 
   /// The platform's result: what was written, or is needed where no room was given; 0 for too
@@ -73,7 +83,7 @@ char32_t TakeCharacter(std::span<const char>& bytes) {
   const Sequence sequence = SequenceOf(lead);
   if (sequence.trailing < 0) return kReplacement;
   if (sequence.trailing == 0) return lead;
-  char32_t character = lead & (0x3Fu >> sequence.trailing);
+  char32_t character = lead & (0x3FU >> sequence.trailing);
   uint8_t low = sequence.firstLow;
   uint8_t high = sequence.firstHigh;
   for (int i = 0; i < sequence.trailing; ++i) {
@@ -81,7 +91,7 @@ char32_t TakeCharacter(std::span<const char>& bytes) {
     const auto byte = static_cast<uint8_t>(bytes.front());
     if (byte < low || byte > high) return kReplacement;
     bytes = bytes.subspan(1);
-    character = character << 6 | (byte & 0x3Fu);
+    character = character << 6 | (byte & 0x3FU);
     low = 0x80;
     high = 0xBF;
   }
@@ -129,13 +139,27 @@ void Put(Output<char>& narrow, char32_t character) {
   narrow.Put(0x80 | (character & 0x3F));
 }
 
+/// Converts a text. Its runs of ASCII, which most texts are from end to end, go as they are.
+template <typename From, typename To>
+void Convert(std::span<const From> rest, Output<To>& output) {
+  while (!rest.empty()) {
+    const auto end = std::find_if(rest.begin(), rest.end(), [](From unit) {
+      return static_cast<std::make_unsigned_t<From>>(unit) >= 0x80;
+    });
+    const auto length = static_cast<size_t>(end - rest.begin());
+    output.PutAll(rest.first(length));
+    rest = rest.subspan(length);
+    if (!rest.empty()) Put(output, TakeCharacter(rest));
+  }
+}
+
 }  // namespace
 
 int MultiByteToWideChar(UINT codePage, DWORD flags, LPCSTR narrow, int narrowLength, LPWSTR wide,
                         int wideRoom) {
   if (!AreArgumentsValid(codePage, flags, narrow, narrowLength, wide, wideRoom)) return 0;
   Output<WCHAR> output(wide, wideRoom);
-  for (auto rest = Source(narrow, narrowLength); !rest.empty();) Put(output, TakeCharacter(rest));
+  Convert(Source(narrow, narrowLength), output);
   return output.Result();
 }
 
@@ -144,6 +168,6 @@ int WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR wide, int wideLength
   if (!AreArgumentsValid(codePage, flags, wide, wideLength, narrow, narrowRoom)) return 0;
   if (defaultChar != nullptr || usedDefaultChar != nullptr) return 0;
   Output<char> output(narrow, narrowRoom);
-  for (auto rest = Source(wide, wideLength); !rest.empty();) Put(output, TakeCharacter(rest));
+  Convert(Source(wide, wideLength), output);
   return output.Result();
 }

@@ -5,8 +5,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/com.h"
 #include "core/module.h"
+#include "platform/com.h"
 #include "tests/support/fake_path_parser.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/fault.h"

@@ -22,6 +22,16 @@ TEST_F(TextTest, NullNarrowTextIsNull) {
   EXPECT_EQ(nullptr, NarrowToBstr(nullptr).get());
 }
 
+TEST_F(TextTest, NarrowTextsOfEveryLengthBecomeWide) {
+  for (const UINT length : {126u, 127u, 128u, 129u, 5000u}) {
+    const Bstr text = NarrowToBstr((std::string(length - 1, 'x') + "y").c_str());
+    ASSERT_EQ(length, SysStringLen(text.get()));
+    EXPECT_EQ(OLECHAR{'x'}, text.get()[length - 2]);
+    EXPECT_EQ(OLECHAR{'y'}, text.get()[length - 1]);
+    EXPECT_EQ(OLECHAR{}, text.get()[length]);
+  }
+}
+
 TEST_F(TextTest, WideBecomesNarrow) {
   const Bstr name(OLESTR("CIM_Processor"));
   EXPECT_STREQ("CIM_Processor", BstrToNarrow(name.get()).get());

@@ -24,7 +24,7 @@ std::string ErrorOf(std::string_view text) {
 
 std::vector<std::string> PropertyNames(const ClassDefinition& definition) {
   std::vector<std::string> names;
-  for (const PropertyDefinition& property : definition.properties) names.push_back(property.name);
+  for (const auto& property : definition.properties) names.push_back(property->name);
   return names;
 }
 
@@ -58,13 +58,13 @@ TEST(SchemaRules, APropertyDeclaredAgainKeepsItsPlaceAndTakesTheNewWords) {
       class B : A { [Key, Override("P"), Description("new")] uint16 p; };)");
   const ClassDefinition* b = schema.Find("B");
   EXPECT_EQ((std::vector<std::string>{"p", "Q"}), PropertyNames(*b));
-  const PropertyDefinition& property = b->properties[0];
+  const PropertyDefinition& property = *b->properties[0];
   EXPECT_TRUE(property.key);
   EXPECT_EQ("A", property.origin);
-  EXPECT_EQ("new", property.description);
-  EXPECT_EQ("Bits", property.units);
+  EXPECT_EQ("new", property.Description());
+  EXPECT_EQ("Bits", property.Units());
   EXPECT_EQ(Value(uint64_t{1}), property.default_value);
-  EXPECT_FALSE(schema.Find("A")->properties[0].key);
+  EXPECT_FALSE(schema.Find("A")->properties[0]->key);
 }
 
 TEST(SchemaRules, ClassQualifiersAreInheritedAsThePlatformDoes) {
@@ -78,7 +78,7 @@ TEST(SchemaRules, ClassQualifiersAreInheritedAsThePlatformDoes) {
   EXPECT_TRUE(schema.Find("B")->association);
   EXPECT_FALSE(schema.Find("B")->abstract);
   EXPECT_EQ("", schema.Find("B")->provider);
-  EXPECT_EQ("", schema.Find("B")->description);
+  EXPECT_EQ("", schema.Find("B")->Description());
   EXPECT_TRUE(schema.Find("T")->singleton);
 }
 

@@ -17,17 +17,10 @@ const Schema& Shipped() {
 
 std::set<std::string> KeysOf(const ClassDefinition& definition) {
   std::set<std::string> keys;
-  for (const PropertyDefinition& property : definition.properties) {
-    if (property.key) keys.insert(property.name);
+  for (const auto& property : definition.properties) {
+    if (property->key) keys.insert(property->name);
   }
   return keys;
-}
-
-const Value* FindQualifier(const std::vector<Qualifier>& qualifiers, std::string_view name) {
-  for (const Qualifier& qualifier : qualifiers) {
-    if (qualifier.name == name) return &qualifier.value;
-  }
-  return nullptr;
 }
 
 TEST(ShippedSchema, ServesTheClassesOfTheProvider) {
@@ -128,24 +121,26 @@ TEST(ShippedSchema, ServedClassesAreConcreteAndTheirInstancesCanBeTold) {
 
 TEST(ShippedSchema, DescribesEveryClassAndProperty) {
   for (const ClassDefinition& definition : Shipped().Classes()) {
-    EXPECT_FALSE(definition.description.empty()) << definition.name;
-    for (const PropertyDefinition& property : definition.properties) {
-      EXPECT_FALSE(property.description.empty()) << definition.name << "." << property.name;
-      EXPECT_TRUE(property.description.ends_with('.')) << definition.name << "." << property.name;
+    EXPECT_FALSE(definition.Description().empty()) << definition.name;
+    for (const auto& property : definition.properties) {
+      EXPECT_FALSE(property->Description().empty()) << definition.name << "." << property->name;
+      EXPECT_TRUE(property->Description().ends_with('.'))
+          << definition.name << "." << property->name;
     }
   }
 }
 
 TEST(ShippedSchema, ValueMapsHaveOneWordForEachValue) {
   for (const ClassDefinition& definition : Shipped().Classes()) {
-    for (const PropertyDefinition& property : definition.properties) {
-      const Value* map = FindQualifier(property.qualifiers, "ValueMap");
-      const Value* values = FindQualifier(property.qualifiers, "Values");
-      ASSERT_EQ(map == nullptr, values == nullptr) << definition.name << "." << property.name;
+    for (const auto& property : definition.properties) {
+      const Qualifier* map = FindQualifier(property->qualifiers, "ValueMap");
+      const Qualifier* values = FindQualifier(property->qualifiers, "Values");
+      ASSERT_EQ(map == nullptr, values == nullptr) << definition.name << "." << property->name;
       if (!map) continue;
-      const Array& codes = std::get<Array>(*map);
-      EXPECT_EQ(codes.size(), std::get<Array>(*values).size()) << property.name;
-      EXPECT_EQ(codes.size(), std::set<Scalar>(codes.begin(), codes.end()).size()) << property.name;
+      const Array& codes = std::get<Array>(map->value);
+      EXPECT_EQ(codes.size(), std::get<Array>(values->value).size()) << property->name;
+      EXPECT_EQ(codes.size(), std::set<Scalar>(codes.begin(), codes.end()).size())
+          << property->name;
     }
   }
 }

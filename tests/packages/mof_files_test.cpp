@@ -32,8 +32,8 @@ void ExpectSame(const ClassDefinition& expected, const ClassDefinition& actual) 
   ExpectSame(expected.qualifiers, actual.qualifiers, expected.name);
   ASSERT_EQ(expected.properties.size(), actual.properties.size()) << expected.name;
   for (size_t i = 0; i < expected.properties.size(); ++i) {
-    const PropertyDefinition& one = expected.properties[i];
-    const PropertyDefinition& other = actual.properties[i];
+    const PropertyDefinition& one = *expected.properties[i];
+    const PropertyDefinition& other = *actual.properties[i];
     EXPECT_EQ(one.name, other.name) << expected.name;
     EXPECT_EQ(one.TypeText(), other.TypeText()) << expected.name << "." << one.name;
     EXPECT_TRUE(one.default_value == other.default_value) << expected.name << "." << one.name;

@@ -18,8 +18,8 @@ struct ClassNotes {
   std::vector<std::pair<std::string, std::string>> values;
 };
 
-/// The notes of all classes by name, read at the first call. Throws std::runtime_error for a file that isn't valid, and for a class with notes
-/// in two files.
+/// The notes of all classes by name, read at the first call. Throws std::runtime_error for a file
+/// that isn't valid, and for a class with notes in two files.
 const std::map<std::string, ClassNotes>& AllClassNotes();
 
 }  // namespace tqcim::testing

@@ -38,8 +38,8 @@ std::string Kind(const host::ClassDefinition& definition) {
 
 std::string Facts(const host::ClassDefinition& definition, const ClassNotes& notes) {
   std::vector<std::string> keys;
-  for (const host::PropertyDefinition& property : definition.properties) {
-    if (property.key) keys.push_back(property.name);
+  for (const auto& property : definition.properties) {
+    if (property->key) keys.push_back(property->name);
   }
   return "| | |\n|---|---|\n| kind | " + Kind(definition) + " |\n| superclass | " +
          Code(definition.superclass) + " |\n| keys | " + CodeList(keys) + " |\n| store objects | " +
@@ -50,35 +50,33 @@ std::string PropertyRows(const host::ClassDefinition& definition, const ClassNot
   std::string text =
       "| property | type | unit | meaning | where the value comes from |\n|---|---|---|---|---|\n";
   std::vector<std::string> empty;
-  for (const host::PropertyDefinition& property : definition.properties) {
-    const std::string* source = SourceOf(notes, property.name);
+  for (const auto& property : definition.properties) {
+    const std::string* source = SourceOf(notes, property->name);
     if (source == nullptr) {
-      empty.push_back(property.name);
+      empty.push_back(property->name);
       continue;
     }
-    text += "| " + Code(property.name) + (property.key ? " (key)" : "") + " | " +
-            property.TypeText() + " | " + Cell(property.units) + " | " +
-            Cell(property.description) + " | " + Cell(*source) + " |\n";
+    text += "| " + Code(property->name) + (property->key ? " (key)" : "") + " | " +
+            property->TypeText() + " | " + Cell(property->Units()) + " | " +
+            Cell(property->Description()) + " | " + Cell(*source) + " |\n";
   }
   if (!empty.empty()) text += "\nDeclared, and never given: " + CodeList(empty) + ".\n";
   return text;
 }
 
 const host::Array* FindArray(const host::PropertyDefinition& property, std::string_view name) {
-  for (const host::Qualifier& qualifier : property.qualifiers) {
-    if (qualifier.name == name) return std::get_if<host::Array>(&qualifier.value);
-  }
-  return nullptr;
+  const host::Qualifier* qualifier = host::FindQualifier(property.qualifiers, name);
+  return qualifier ? std::get_if<host::Array>(&qualifier->value) : nullptr;
 }
 
 /// The meanings of the codes of the given properties.
 std::string CodeTables(const host::ClassDefinition& definition, const ClassNotes& notes) {
   std::string text;
-  for (const host::PropertyDefinition& property : definition.properties) {
-    const host::Array* codes = FindArray(property, "ValueMap");
-    const host::Array* words = FindArray(property, "Values");
-    if (!codes || !words || !SourceOf(notes, property.name)) continue;
-    text += "\n" + Code(property.name) + ":";
+  for (const auto& property : definition.properties) {
+    const host::Array* codes = FindArray(*property, "ValueMap");
+    const host::Array* words = FindArray(*property, "Values");
+    if (!codes || !words || !SourceOf(notes, property->name)) continue;
+    text += "\n" + Code(property->name) + ":";
     for (size_t i = 0; i < codes->size(); ++i) {
       text += (i == 0 ? " " : "; ") + Code(tools::PlainText(host::ToValue((*codes)[i]))) + " " +
               tools::PlainText(host::ToValue((*words)[i]));
@@ -92,7 +90,7 @@ std::string CodeTables(const host::ClassDefinition& definition, const ClassNotes
 
 std::string ClassPage(const host::ClassDefinition& definition, const ClassNotes& notes,
                       const std::string& example) {
-  return "# " + definition.name + "\n\n" + definition.description + "\n\n" +
+  return "# " + definition.name + "\n\n" + std::string(definition.Description()) + "\n\n" +
          Facts(definition, notes) + "\n" + notes.from + "\n\n## What to alert on\n\n" +
          notes.alert + "\n\n## Properties\n\n" + PropertyRows(definition, notes) +
          CodeTables(definition, notes) +
@@ -102,7 +100,7 @@ std::string ClassPage(const host::ClassDefinition& definition, const ClassNotes&
 }
 
 std::string IndexLine(const host::ClassDefinition& definition) {
-  const std::string& text = definition.description;
+  const std::string text(definition.Description());
   return "- [" + definition.name + "](" + definition.name +
          ".md): " + text.substr(0, text.find(". ")) +
          (text.find(". ") == std::string::npos ? "\n" : ".\n");

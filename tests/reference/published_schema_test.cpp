@@ -14,8 +14,8 @@ std::string TextOf(const host::ClassDefinition& definition) {
   if (!definition.superclass.empty()) text += " : " + definition.superclass;
   if (definition.association) text += " (association)";
   if (definition.singleton) text += " (singleton)";
-  for (const host::PropertyDefinition& property : definition.properties) {
-    text += "\n  " + property.name + " " + property.TypeText() + (property.key ? " key" : "");
+  for (const auto& property : definition.properties) {
+    text += "\n  " + property->name + " " + property->TypeText() + (property->key ? " key" : "");
   }
   return text + "\n";
 }

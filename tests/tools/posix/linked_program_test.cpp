@@ -19,8 +19,8 @@ TEST_F(LinkedProgram, FindsItsModulesAndItsConfigurationWhereItLies) {
   std::filesystem::create_symlink(Folder().Path() / TQCIM_PROGRAM_NAME, link);
   const auto output = commands.Path() / "output";
   EXPECT_EQ(0, RunChild(link, {"list", "VORN_System"}, output, commands.Path() / "error"));
-  EXPECT_TRUE(ContentsOf(output).starts_with(
-      "VORN_System: 1 instance, from the store file machine.json\n"))
+  EXPECT_TRUE(
+      ContentsOf(output).starts_with("VORN_System: 1 instance, from the store file machine.json\n"))
       << ContentsOf(output);
 }
 
