@@ -1,5 +1,6 @@
 #include "core/cim_datetime.h"
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstdint>
@@ -95,8 +96,9 @@ SupportText FormatCimDateTime(const std::tm* time) {
   for (const int part : {time->tm_mday, time->tm_hour, time->tm_min, time->tm_sec}) {
     end = PutDecimal(end, part, 2);
   }
-  std::strcpy(end, ".000000");
-  std::strcat(end, CurrentOffsetText().data());
+  const OffsetText offset = CurrentOffsetText();
+  end = std::copy_n(".000000", 7, end);
+  std::copy(offset.begin(), offset.end(), end);
   return text;
 }
 

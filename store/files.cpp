@@ -4,6 +4,7 @@
 #include <fstream>
 #include <random>
 #include <system_error>
+#include <utility>
 
 #include "store/store_error.h"
 
@@ -20,7 +21,7 @@ std::string LastError() {
 /// Removes the file at the end unless it has been moved away.
 class TemporaryFile {
  public:
-  explicit TemporaryFile(const fs::path& target) : path_(target) {
+  explicit TemporaryFile(fs::path target) : path_(std::move(target)) {
     path_ += ".new-" + std::to_string(std::random_device()());
   }
   ~TemporaryFile() {

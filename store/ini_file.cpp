@@ -1,7 +1,6 @@
 #include "store/ini_file.h"
 
 #include <charconv>
-#include <string>
 
 // The packaged header holds the library's own code behind this name.
 #define SI_IMPLEMENTATION
@@ -22,22 +21,22 @@ std::optional<uint16_t> NumberOf(std::string_view text) {
 
 }  // namespace
 
-std::optional<uint16_t> ReadIniNumber(const std::filesystem::path& file, const std::string& section,
-                                      const std::string& key) {
+std::optional<uint16_t> ReadIniNumber(const std::filesystem::path& file, const char* section,
+                                      const char* key) {
   std::error_code error;
   if (!std::filesystem::exists(file, error)) return std::nullopt;
   return ParseIniNumber(ReadFile(file), section, key);
 }
 
-std::optional<uint16_t> ParseIniNumber(std::string_view contents, const std::string& section,
-                                       const std::string& key) {
+std::optional<uint16_t> ParseIniNumber(std::string_view contents, const char* section,
+                                       const char* key) {
   constexpr bool kUtf8 = true;
   // Without this a later value of a key would take the place of the first.
   constexpr bool kSeveralValues = true;
   CSimpleIniA ini(kUtf8, kSeveralValues);
   ini.LoadData(contents.data(), contents.size());
   CSimpleIniA::TNamesDepend values;
-  ini.GetAllValues(section.c_str(), key.c_str(), values);
+  ini.GetAllValues(section, key, values);
   if (values.empty()) return std::nullopt;
   values.sort(CSimpleIniA::Entry::LoadOrder());
   return NumberOf(values.front().pItem);

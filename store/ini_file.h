@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <optional>
-#include <string>
 #include <string_view>
 
 namespace tqcim::store {
@@ -13,10 +12,10 @@ namespace tqcim::store {
 /// is missing or the value isn't such a number. Section and key match without regard to case; the
 /// first match counts. Lines that begin with ';' or '#' are comments. Throws StoreError for a file
 /// that is there and can't be read.
-std::optional<uint16_t> ReadIniNumber(const std::filesystem::path& file, const std::string& section,
-                                      const std::string& key);
+std::optional<uint16_t> ReadIniNumber(const std::filesystem::path& file, const char* section,
+                                      const char* key);
 /// The same for contents at hand.
-std::optional<uint16_t> ParseIniNumber(std::string_view contents, const std::string& section,
-                                       const std::string& key);
+std::optional<uint16_t> ParseIniNumber(std::string_view contents, const char* section,
+                                       const char* key);
 
 }  // namespace tqcim::store

@@ -53,7 +53,7 @@ void AddSlot(const Structure& structure, uint32_t position, SnapshotBuilder& bui
   // DSP0134 7.10.5: a PC Card slot has no number there, but an adapter's and a socket's.
   if (type != kPcCardSlot) SetKnown(draft, slot::kNumber, structure.Word(0x09));
   if (const auto characteristics = structure.Byte(0x0C)) {
-    draft.Set(slot::kHotPlug, *characteristics >> kHotPlugBit & 1);
+    draft.Set(slot::kHotPlug, static_cast<int16_t>(*characteristics >> kHotPlugBit & 1));
   }
 }
 

@@ -83,6 +83,8 @@ class Snapshot {
 
   /// One more hold, unless the last one is gone already.
   bool Hold();
+  /// One more hold of a snapshot that somebody is known to hold.
+  void HoldToo() { holds_.fetch_add(1, std::memory_order_relaxed); }
   void Release() { holds_.fetch_sub(1, std::memory_order_acq_rel); }
   bool IsHeld() const { return holds_.load(std::memory_order_acquire) != 0; }
   /// The holds of callers and of the store.

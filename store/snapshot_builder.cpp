@@ -148,7 +148,7 @@ void SnapshotBuilder::CheckObjects() const {
   }
   for (const ObjectDraft& draft : drafts_) {
     for (const uint32_t parent : draft.Parents()) {
-      if (oids.count(parent) == 0) {
+      if (!oids.contains(parent)) {
         throw StoreError(draft.Place(), "the parent " + Number(parent) + " of object " +
                                             Number(draft.Oid()) + " does not exist");
       }

@@ -42,29 +42,37 @@ void* CopyOf(const LogRecord& record) {
   return block;
 }
 
+/// One of so many shards, mostly another for another thread: their stacks stand apart.
+size_t StackShard(const void* onStack, size_t count) {
+  constexpr unsigned kLeastStackBits = 16;
+  constexpr uint64_t kGoldenRatio = 0x9E3779B97F4A7C15;
+  const uint64_t place = reinterpret_cast<uintptr_t>(onStack) >> kLeastStackBits;
+  return (place * kGoldenRatio >> 32) % count;
+}
+
 }  // namespace
 
 class Store::ReadSection {
  public:
-  explicit ReadSection(const Store& store) : store_(store) {
+  explicit ReadSection(const Store& store) {
+    ReaderCounts& counts = store.readers_[StackShard(this, store.readers_.size())];
     for (;;) {
-      const uint64_t epoch = store_.epoch_.load();
-      slot_ = epoch % 2;
-      store_.readers_[slot_].fetch_add(1);
-      if (store_.epoch_.load() == epoch) break;
-      store_.readers_[slot_].fetch_sub(1);
+      const uint64_t epoch = store.epoch_.load();
+      count_ = &counts.of[epoch % 2];
+      count_->fetch_add(1);
+      if (store.epoch_.load() == epoch) break;
+      count_->fetch_sub(1);
     }
-    view_ = store_.view_.load();
+    view_ = store.view_.load();
   }
-  ~ReadSection() { store_.readers_[slot_].fetch_sub(1); }
+  ~ReadSection() { count_->fetch_sub(1); }
   ReadSection(const ReadSection&) = delete;
   ReadSection& operator=(const ReadSection&) = delete;
 
   const View* operator->() const { return view_; }
 
  private:
-  const Store& store_;
-  size_t slot_;
+  std::atomic<uint32_t>* count_;
   const View* view_;
 };
 
@@ -75,9 +83,9 @@ Store::~Store() {
 }
 
 void Store::OpenOnce(const std::function<std::unique_ptr<Snapshot>()>& load) {
-  if (ReadSection(*this)->current != nullptr) return;
+  if (opened_.load(std::memory_order_acquire)) return;
   const std::lock_guard lock(refresh_);
-  if (view_.load()->current == nullptr) Publish(load());
+  if (!opened_.load(std::memory_order_relaxed)) Publish(load());
 }
 
 void Store::Replace(std::unique_ptr<Snapshot> snapshot) {
@@ -119,7 +127,11 @@ void* Store::ListChildren(uint32_t parent, uint16_t type) const {
   const ReadSection view(*this);
   if (view->current == nullptr) return nullptr;
   uint32_t* list = view->current->Children(parent, type);
-  if (list != nullptr && view->current->Hold()) return list;
+  if (list != nullptr) {
+    // The store holds it as long as a reader sees it as the one in service.
+    view->current->HoldToo();
+    return list;
+  }
   for (Snapshot* retired : view->retired) {
     list = retired->Children(parent, type);
     if (list != nullptr && retired->Hold()) return list;
@@ -161,6 +173,7 @@ void Store::Publish(std::unique_ptr<Snapshot> snapshot) {
   Snapshot* const current = snapshot.get();
   snapshots_.push_back(std::move(snapshot));
   InstallView(current);
+  opened_.store(true, std::memory_order_release);
   if (previous == nullptr) return;
   // No reader sees `previous` as the one in service any more, so that holds on it only come from
   // the lists that callers have.
@@ -188,7 +201,9 @@ void Store::InstallView(Snapshot* current) {
 
 void Store::WaitForReaders() {
   const uint64_t old = epoch_.fetch_add(1);
-  while (readers_[old % 2].load() != 0) std::this_thread::yield();
+  for (const ReaderCounts& counts : readers_) {
+    while (counts.of[old % 2].load() != 0) std::this_thread::yield();
+  }
 }
 
 }  // namespace tqcim::store

@@ -72,11 +72,18 @@ class Store {
   void WaitForReaders();
 
   std::atomic<const View*> view_;
+  /// Whether there has been a snapshot: from then on there is always one.
+  std::atomic<bool> opened_{false};
   /// Readers register in the slot of the epoch's parity. A refresh starts the next epoch and waits
   /// until the old slot is empty: then nobody sees the old view any more, and readers that keep
   /// coming can't hold the refresh up.
   std::atomic<uint64_t> epoch_{0};
-  mutable std::array<std::atomic<uint32_t>, 2> readers_{};
+  /// There are several of both, so that the readers of one core don't wait for the cache line of
+  /// another's.
+  struct alignas(64) ReaderCounts {
+    std::array<std::atomic<uint32_t>, 2> of{};
+  };
+  mutable std::array<ReaderCounts, 16> readers_{};
 
   mutable std::mutex refresh_;
   std::vector<std::unique_ptr<Snapshot>> snapshots_;

@@ -12,7 +12,7 @@ namespace tqcim {
 
 /// Puts reading, thresholds, name, status and keys of a probe. Readings and thresholds pass as the
 /// store holds them. The `DeviceID` is outer * 100 + inner in decimal.
-void PutThresholdSensorProperties(Instance& instance, const DataObject& probe,
+void PutThresholdSensorProperties(Instance& instance, const DataObject& object,
                                   const OLECHAR* className, uint32_t inner, uint32_t outer);
 
 /// One of the four sensor classes.

@@ -22,7 +22,6 @@ void PutText(Instance& instance, const OLECHAR* name, const DataObject& object,
 
 void PutManufacturingDate(Instance& instance, int64_t secondsSince1970) {
   if (secondsSince1970 == 0) return;
-  ReadTimeZone();
   if (const SupportText date = FormatLocalDateTime(secondsSince1970)) {
     instance.PutDateTime(OLESTR("FRUManufacturingDateName"), date.get());
   }
@@ -68,6 +67,7 @@ void PutFruProperties(Instance& instance, const DataObject& object) {
 }  // namespace
 
 HRESULT CIM_Fru::EnumerateInstances(IWbemClassObject* classDefinition, IWbemObjectSink* sink) {
+  ReadTimeZone();
   HRESULT lastIndicate = S_OK;
   for (const uint16_t type : {fru::kParentType, fru::kOwnType, fru::kOtherOwnType}) {
     for (uint32_t position = 0; position < kPositionLimit; ++position) {

@@ -21,7 +21,7 @@ bool PutPresent(Instance& instance, const OLECHAR* name, const DataObject& objec
 }
 
 void PutFlag(Instance& instance, const OLECHAR* name, uint8_t flags, int bit) {
-  instance.Put(name, Variant::Bool((flags >> bit) & 1));
+  instance.Put(name, Variant::Bool(static_cast<VARIANT_BOOL>(flags >> bit & 1)));
 }
 
 void PutBoardProperties(Instance& instance, const DataObject& object, uint16_t index) {

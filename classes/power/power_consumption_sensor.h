@@ -8,8 +8,8 @@
 namespace tqcim {
 
 /// Whether a current probe measures what the system draws, in amperes or in watts.
-bool IsAmpsProbe(const DataObject& probe);
-bool IsWattsProbe(const DataObject& probe);
+bool IsAmpsProbe(const DataObject& object);
+bool IsWattsProbe(const DataObject& object);
 
 /// One of the two sensor classes.
 struct PowerConsumptionSensorClass {

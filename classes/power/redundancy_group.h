@@ -14,11 +14,11 @@ struct RedundancyGroupClass {
 };
 
 /// Whether a group has members of a type.
-bool HasMembers(const DataObject& group, uint16_t memberType);
+bool HasMembers(const DataObject& object, uint16_t memberType);
 
 /// The reference to a group of power supplies: its name with the chassis's position behind it,
 /// which the group's own instance does not carry. Clients know both.
-ObjectPath RedundancyGroupPath(const DataObject& group, uint32_t chassisPosition);
+ObjectPath RedundancyGroupPath(const DataObject& object, uint32_t chassisPosition);
 
 /// Delivers the groups with members of the class's type, once for every chassis: groups belong to
 /// no chassis of their own. The result is that of the last delivery.

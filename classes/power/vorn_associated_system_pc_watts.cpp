@@ -10,6 +10,7 @@ HRESULT VORN_AssociatedSystemPCWatts::EnumerateInstances(IWbemClassObject* class
                                                          IWbemObjectSink* sink) {
   namespace probe = layout::probe;
   const PathComputerName computerName;
+  const ObjectPath systemPath = SystemPath(computerName);
   HRESULT lastRelease = S_OK;
   uint32_t outer = 0;
   for (uint32_t inner = 0;; ++inner) {
@@ -18,8 +19,7 @@ HRESULT VORN_AssociatedSystemPCWatts::EnumerateInstances(IWbemClassObject* class
     if (!IsWattsProbe(object)) continue;
     Instance instance(classDefinition);
     if (!instance) return lastRelease;
-    PutEnds(instance, SystemPath(computerName).text,
-            WattsSensorPath(computerName, object[probe::kName]).text);
+    PutEnds(instance, systemPath.text, WattsSensorPath(computerName, object[probe::kName]).text);
     instance.Indicate(sink);
     lastRelease = instance.Release();
   }

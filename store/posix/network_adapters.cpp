@@ -56,8 +56,10 @@ std::vector<uint8_t> HexBytes(std::string_view text, size_t gap) {
 /// The location that a device's folder is named after, "0000:3b:00.1" (domain, bus, device,
 /// function).
 std::optional<PciLocation> PciLocationOf(const std::string& folder) {
-  const size_t bus = folder.find(':') + 1;
-  if (bus == 0 || folder.size() != bus + 7 || folder[bus + 2] != ':' || folder[bus + 5] != '.') {
+  const size_t colon = folder.find(':');
+  if (colon == std::string::npos) return std::nullopt;
+  const size_t bus = colon + 1;
+  if (folder.size() != bus + 7 || folder[bus + 2] != ':' || folder[bus + 5] != '.') {
     return std::nullopt;
   }
   const auto number = [&](size_t at, size_t length) {

@@ -14,7 +14,8 @@ std::filesystem::path LibraryFolder() {
               RTLD_DL_LINKMAP) == 0) {
     return {};
   }
-  // The program itself has no name there, and the one under which it was started need not be a path.
+  // The program itself has no name there, and the one under which it was started need not be a
+  // path.
   const bool isProgram = *map->l_name == '\0';
   std::error_code unreadable;
   return std::filesystem::canonical(isProgram ? "/proc/self/exe" : map->l_name, unreadable)

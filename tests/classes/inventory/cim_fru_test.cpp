@@ -238,6 +238,15 @@ TEST_F(CimFruTest, AListingThatFailsOrAUnitThatCannotBeReadEndsItsTypeOnly) {
   EXPECT_EQ((std::vector<std::string>{"Backplane"}), DeviceNames());
 }
 
+TEST_F(CimFruTest, ATypeEndsAfter65536UnitsInsteadOfStartingOverAndTheNextFollows) {
+  definition.RecordNothing();
+  store.Add(23, 387, 2);
+  store.ListLong(2, 384, std::vector<uint32_t>(65'537, 23));
+  EXPECT_EQ(0, Enumerate("CIM_FRU"));
+  // All that a position can name, and the unit of type 385.
+  EXPECT_EQ(65'537u, DeliveredCount());
+}
+
 TEST_F(CimFruTest, AFailedSpawnEndsAllTypesAndIsReturned) {
   store.Add(23, 386);
   store.List(2, 386, {23});

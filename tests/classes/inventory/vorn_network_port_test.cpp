@@ -267,6 +267,13 @@ TEST_F(VornNetworkPortTest, EndsAtTheFirstAdapterThatCannotBeRead) {
   EXPECT_EQ(0u, DeliveredCount());
 }
 
+TEST_F(VornNetworkPortTest, EndsAfter65536AdaptersInsteadOfStartingOver) {
+  definition.RecordNothing();
+  store.ListLong(2, 96, std::vector<uint32_t>(65'537, 100));
+  EXPECT_EQ(0, Enumerate("VORN_NetworkPort"));
+  EXPECT_EQ(65'536u, DeliveredCount());
+}
+
 TEST_F(VornNetworkPortTest, IgnoresTheSinksRefusal) {
   sink.SetIndicateResult(Hr(0x80041032));
   EXPECT_EQ(0, Enumerate("VORN_NetworkPort"));
