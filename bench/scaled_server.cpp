@@ -17,10 +17,11 @@ namespace {
 using Json = nlohmann::json;
 
 /// Which objects below the main chassis become instances of the class; the records of the logs
-/// where it says eventLog.
+/// where it says eventLog. Where only some of a type do, `like` is the OID of one in the sample.
 struct ScaledType {
   std::string_view className;
   std::string_view type;
+  uint32_t like = 0;
 };
 constexpr ScaledType kScaledTypes[] = {{"CIM_TemperatureSensor", "temperatureProbe"},
                                        {"CIM_PackageTempSensor", "temperatureProbe"},
@@ -32,15 +33,21 @@ constexpr ScaledType kScaledTypes[] = {{"CIM_TemperatureSensor", "temperaturePro
                                        {"CIM_Fan", "fanProbe"},
                                        {"CIM_PackageFanSensor", "fanProbe"},
                                        {"VORN_FanSensor", "fanProbe"},
+                                       {"VORN_PackageDiscreteSensor", "voltageProbe", 34},
+                                       {"VORN_PowerConsumptionAmpsSensor", "currentProbe", 40},
+                                       {"VORN_PowerConsumptionWattsSensor", "currentProbe", 42},
+                                       {"VORN_AssociatedSystemPCWatts", "currentProbe", 42},
+                                       {"VORN_AssociatedSupplyPCAmps", "currentProbe", 40},
                                        {"CIM_DiscreteSensor", "processorSensor"},
                                        {"VORN_EsmLog", "eventLog"},
                                        {"VORN_PostLog", "eventLog"},
                                        {"CIM_Watchdog", "watchdog"},
                                        {"CIM_PowerSupply", "powerSupply"},
                                        {"CIM_PackagePowerSupply", "powerSupply"},
-                                       {"VORN_PSRedundancy", "powerSupply"},
-                                       {"VORN_PSRedundancyGroup", "redundancyGroup"},
-                                       {"VORN_FanRedundancyGroup", "redundancyGroup"},
+                                       {"VORN_PSRedundancy", "powerSupply", 50},
+                                       {"VORN_PSRedundancyGroup", "redundancyGroup", 60},
+                                       {"VORN_PackagePSRedundancy", "redundancyGroup", 60},
+                                       {"VORN_FanRedundancyGroup", "redundancyGroup", 61},
                                        {"CIM_Processor", "processorDevice"},
                                        {"CIM_PhysicalMemory", "memoryDevice"},
                                        {"VORN_Firmware", "firmware"},
@@ -62,8 +69,8 @@ class Server {
     }
   }
 
-  void Scale(std::string_view type, uint32_t count) {
-    type == "eventLog" ? ScaleRecords(count) : ScaleObjects(type, count);
+  void Scale(const ScaledType& row, uint32_t count) {
+    row.type == "eventLog" ? ScaleRecords(count) : ScaleObjects(row, count);
   }
 
   void Open() const {
@@ -92,20 +99,15 @@ class Server {
     }
   }
 
-  void ScaleObjects(std::string_view type, uint32_t count) {
+  void ScaleObjects(const ScaledType& row, uint32_t count) {
     std::vector<Json> few;
     for (const Json& object : Objects()) {
-      if (object.at("type") == type) few.push_back(object);
+      if (object.at("type") != row.type) continue;
+      if (row.like == 0 || object.at("oid") == row.like) few.push_back(object);
     }
     const std::vector<Json> all = Objects();
     for (uint32_t i = static_cast<uint32_t>(few.size()); i < count; ++i) {
       Copy(few[i % few.size()], all);
-    }
-    auto& objects = Objects();
-    for (size_t i = few.size(); i > count; --i) {
-      const auto last = std::find_if(objects.rbegin(), objects.rend(),
-                                     [&](const Json& object) { return object.at("type") == type; });
-      objects.erase(std::next(last).base());
     }
   }
 
@@ -136,7 +138,7 @@ bool OpenScaledServer(std::string_view className, uint32_t instances) {
   bool scaled = false;
   for (const ScaledType& row : kScaledTypes) {
     if (row.className != className) continue;
-    server.Scale(row.type, instances);
+    server.Scale(row, instances);
     scaled = true;
   }
   server.Open();

@@ -20,5 +20,7 @@ else()
     add_compile_options(-fstack-protector-strong -Wformat -Werror=format-security
                         -D_FORTIFY_SOURCE=2 -Wdate-time -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
     add_link_options(-Wl,-z,relro,-z,now)
+    # Half of the start of a program was the binding of libstdc++. The modules share nothing of it.
+    add_link_options(-static-libstdc++ -static-libgcc -Wl,--exclude-libs,ALL -Wl,--gc-sections)
   endif()
 endif()

@@ -3,7 +3,9 @@
 
 #include <malloc.h>
 
+#include <algorithm>
 #include <atomic>
+#include <cstdint>
 #include <cstdlib>
 
 extern "C" {
@@ -15,23 +17,27 @@ void __libc_free(void* block);
 
 namespace {
 
+// Of the work that is counted; while times are taken there is none.
+std::atomic<bool> counting;
 std::atomic<size_t> allocations;
-std::atomic<size_t> bytesInUse;
-std::atomic<size_t> peakBytes;
+std::atomic<int64_t> bytesInUse;
+std::atomic<int64_t> peakBytes;
+
+int64_t SizeOf(void* block) {
+  return static_cast<int64_t>(malloc_usable_size(block));
+}
 
 void* Counted(void* block) {
-  if (!block) return block;
+  if (!counting.load(std::memory_order_relaxed) || !block) return block;
   allocations.fetch_add(1, std::memory_order_relaxed);
-  const size_t size = malloc_usable_size(block);
-  const size_t inUse = bytesInUse.fetch_add(size, std::memory_order_relaxed) + size;
-  if (inUse > peakBytes.load(std::memory_order_relaxed)) {
-    peakBytes.store(inUse, std::memory_order_relaxed);
-  }
+  const int64_t inUse = bytesInUse.fetch_add(SizeOf(block), std::memory_order_relaxed);
+  peakBytes = std::max(peakBytes.load(), inUse + SizeOf(block));
   return block;
 }
 
 void Uncount(void* block) {
-  if (block) bytesInUse.fetch_sub(malloc_usable_size(block), std::memory_order_relaxed);
+  if (!counting.load(std::memory_order_relaxed) || !block) return;
+  bytesInUse.fetch_sub(SizeOf(block), std::memory_order_relaxed);
 }
 
 }  // namespace
@@ -58,11 +64,13 @@ void free(void* block) {
 namespace tqcim::bench {
 
 std::optional<HeapUse> HeapUseOf(const std::function<void()>& work) {
-  const size_t before = bytesInUse;
-  const size_t allocationsBefore = allocations;
-  peakBytes = before;
+  allocations = 0;
+  bytesInUse = 0;
+  peakBytes = 0;
+  counting = true;
   work();
-  return HeapUse{.allocations = allocations - allocationsBefore, .peakBytes = peakBytes - before};
+  counting = false;
+  return HeapUse{.allocations = allocations, .peakBytes = static_cast<size_t>(peakBytes)};
 }
 
 }  // namespace tqcim::bench
