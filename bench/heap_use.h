@@ -1,9 +1,8 @@
-/// What the process takes from the heap; one implementation per platform.
+/// What the process takes from the heap.
 #pragma once
 
 #include <cstddef>
 #include <functional>
-#include <optional>
 
 namespace tqcim::bench {
 
@@ -13,7 +12,16 @@ struct HeapUse {
   size_t peakBytes = 0;
 };
 
-/// What the work takes. Nothing where the platform can't be asked.
-std::optional<HeapUse> HeapUseOf(const std::function<void()>& work);
+/// What the work takes.
+HeapUse HeapUseOf(const std::function<void()>& work);
+
+/// Whether there is work under way whose use is asked for; while times are taken there is none.
+bool CountsHeapUse();
+/// What stands before the platform's functions tells of each block of so many bytes, one
+/// implementation per platform.
+void CountAllocation(size_t bytes);
+void CountRelease(size_t bytes);
+/// Puts it there, for all modules that are loaded.
+void WatchHeap();
 
 }  // namespace tqcim::bench

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "bench/process_resources.h"
@@ -70,13 +71,19 @@ class Soak {
     left_ = static_cast<int64_t>(count);
     std::vector<std::thread> threads;
     for (size_t i = 0; i < kThreads; ++i) threads.emplace_back([this, i] { Ask(i * 7); });
-    while (left_ > 0) Refresh();
+    for (int64_t tenths = 0; left_ > 0; Refresh()) {
+      const int64_t done = 10 - left_ * 10 / static_cast<int64_t>(count);
+      if (std::exchange(tenths, done) != done) Tell(done);
+    }
     for (std::thread& thread : threads) thread.join();
     return different_;
   }
   size_t Refreshes() const { return refreshes_; }
 
  private:
+  static void Tell(int64_t tenths) {
+    std::fprintf(stderr, "soak: %d of 10 parts done\n", static_cast<int>(tenths));
+  }
   void Ask(size_t position) {
     CoInitializeEx(nullptr, COINIT_MULTITHREADED);
     while (left_.fetch_sub(1) > 0) {

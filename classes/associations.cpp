@@ -14,9 +14,9 @@ std::optional<ObjectPath> ChassisPath(uint32_t chassisOid) {
       {object[description::kName]});
 }
 
-void PutEnds(Instance& instance, const OLECHAR* dependent, const OLECHAR* antecedent) {
-  instance.Put(OLESTR("Dependent"), Variant::Text(dependent));
-  instance.Put(OLESTR("Antecedent"), Variant::Text(antecedent));
+void PutEnds(Instance& instance, WideView dependent, WideView antecedent) {
+  instance.Put(OLESTR("Dependent"), Variant::Text(Bstr(dependent)));
+  instance.Put(OLESTR("Antecedent"), Variant::Text(Bstr(antecedent)));
 }
 
 }  // namespace tqcim

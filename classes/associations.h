@@ -13,6 +13,6 @@ namespace tqcim {
 std::optional<ObjectPath> ChassisPath(uint32_t chassisOid);
 
 /// Puts both ends, the dependent one first.
-void PutEnds(Instance& instance, const OLECHAR* dependent, const OLECHAR* antecedent);
+void PutEnds(Instance& instance, WideView dependent, WideView antecedent);
 
 }  // namespace tqcim

@@ -45,11 +45,11 @@ OffsetText OffsetTextAt(std::time_t now) {
 }
 
 /// Tells one second and time zone from another. Never 0.
-uint32_t MomentTag(std::time_t now) {
+uint32_t MomentTag(int64_t second) {
   // FNV-1a.
   uint64_t hash = 0xCBF29CE484222325;
   const auto add = [&](uint64_t byte) { hash = (hash ^ byte) * 0x100000001B3; };
-  for (size_t i = 0; i < sizeof now; ++i) add(static_cast<uint64_t>(now) >> 8 * i & 0xFF);
+  for (size_t i = 0; i < sizeof second; ++i) add(static_cast<uint64_t>(second) >> 8 * i & 0xFF);
   if (const char* zone = std::getenv("TZ")) {
     while (*zone) add(static_cast<unsigned char>(*zone++));
   }
@@ -61,8 +61,7 @@ uint32_t MomentTag(std::time_t now) {
 OffsetText CurrentOffsetText() {
   // The tag above, the four characters below.
   static constinit std::atomic<uint64_t> last{0};
-  const std::time_t now = std::time(nullptr);
-  const uint32_t tag = MomentTag(now);
+  const uint32_t tag = MomentTag(PassingSeconds());
   OffsetText text{};
   const uint64_t known = last.load(std::memory_order_relaxed);
   if (known >> 32 == tag) {
@@ -70,7 +69,7 @@ OffsetText CurrentOffsetText() {
     return text;
   }
   ReadTimeZone();
-  text = OffsetTextAt(now);
+  text = OffsetTextAt(std::time(nullptr));
   uint64_t answer = 0;
   std::memcpy(&answer, text.data(), 4);
   last.store(uint64_t{tag} << 32 | answer, std::memory_order_relaxed);

@@ -1,53 +1,43 @@
 #include "core/object_path.h"
 
 #include <algorithm>
-#include <iterator>
-#include <string>
-#include <string_view>
+#include <charconv>
+#include <limits>
 
 #include "core/computer_name.h"
 #include "platform/libraries.h"
 
 namespace tqcim {
-namespace {
 
-using WideView = std::basic_string_view<OLECHAR>;
+void ObjectPath::Append(WideView text) {
+  const size_t fitting = std::min(text.size(), kMaxLength - length_);
+  std::copy_n(text.data(), fitting, text_ + length_);
+  length_ += fitting;
+}
 
-/// Appends to a fixed buffer and keeps the terminator.
-class PathWriter {
- public:
-  explicit PathWriter(ObjectPath& path) : next_(path.text), last_(std::end(path.text) - 1) {}
+void ObjectPath::Append(const OLECHAR* text) {
+  if (!text) return;
+  while (*text && length_ < kMaxLength) text_[length_++] = *text++;
+}
 
-  template <typename Char>
-  void Append(std::basic_string_view<Char> text) {
-    const auto fitting = std::min(text.size(), static_cast<size_t>(last_ - next_));
-    next_ = std::copy_n(text.begin(), fitting, next_);
+void ObjectPath::Append(int32_t number) {
+  char digits[std::numeric_limits<int32_t>::digits10 + 2];
+  const char* const end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+  for (const char* digit = digits; digit != end && length_ < kMaxLength; ++digit) {
+    text_[length_++] = static_cast<OLECHAR>(*digit);
   }
-  void Append(const OLECHAR* text) {
-    if (text) Append(WideView(text));
-  }
-  void Append(int32_t number) { Append(std::string_view(std::to_string(number))); }
-
- private:
-  OLECHAR* next_;
-  OLECHAR* const last_;
-};
-
-}  // namespace
+}
 
 ObjectPath FormatObjectPath(
-    const OLECHAR* format, std::initializer_list<std::variant<const OLECHAR*, int32_t>> arguments) {
+    const PathFormat& format,
+    std::initializer_list<std::variant<const OLECHAR*, int32_t>> arguments) {
   ObjectPath path;
-  PathWriter writer(path);
   auto argument = arguments.begin();
-  WideView rest(format);
-  for (size_t place = rest.find(OLECHAR{'%'}); place != WideView::npos;
-       place = rest.find(OLECHAR{'%'})) {
-    writer.Append(rest.substr(0, place));
-    std::visit([&](auto value) { writer.Append(value); }, *argument++);
-    rest.remove_prefix(place + 2);
+  for (const WideView piece : format.Pieces()) {
+    path.Append(piece);
+    if (argument == arguments.end()) break;
+    std::visit([&](auto value) { path.Append(value); }, *argument++);
   }
-  writer.Append(rest);
   return path;
 }
 

@@ -81,7 +81,9 @@ ClassObject::ClassObject(std::shared_ptr<const Schema> schema, const ClassDefini
 
 Com<ClassObject> ClassObject::Definition(std::shared_ptr<const Schema> schema,
                                          const ClassDefinition& definition) {
-  return Com<ClassObject>(new ClassObject(std::move(schema), definition, Kind::kDefinition));
+  // A count of references of its own: the instances of one request don't share that of another's.
+  const auto own = std::make_shared<const std::shared_ptr<const Schema>>(std::move(schema));
+  return Com<ClassObject>(new ClassObject({own, own->get()}, definition, Kind::kDefinition));
 }
 
 const ClassObject* ClassObject::Behind(IWbemClassObject* object) {

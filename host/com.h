@@ -6,6 +6,7 @@
 
 #include "host/text.h"
 #include "platform/com.h"
+#include "platform/shards.h"
 
 namespace tqcim::host {
 
@@ -19,13 +20,13 @@ class LiveObject {
   LiveObject() { ++count_; }
   LiveObject(const LiveObject&) = delete;
   LiveObject& operator=(const LiveObject&) = delete;
-  static int Count() { return count_; }
+  static int64_t Count() { return count_.Sum(); }
 
  protected:
   ~LiveObject() { --count_; }
 
  private:
-  inline static std::atomic<int> count_ = 0;
+  inline static ShardedCount count_;
 };
 
 /// A COM object of one interface beside IUnknown. It starts with one reference and deletes itself

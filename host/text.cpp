@@ -42,11 +42,13 @@ std::string LowerCase(std::string_view text) {
 }
 
 bool EqualNames(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return Lower(x) == Lower(y); });
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return x == y || Lower(x) == Lower(y);
+         });
 }
 
 bool NameOrder::operator()(std::string_view a, std::string_view b) const {
+  if (a.size() != b.size()) return a.size() < b.size();
   return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
                                       [](char x, char y) { return Lower(x) < Lower(y); });
 }

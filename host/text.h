@@ -23,7 +23,8 @@ std::string ToUtf8(WideView wide);
 std::string LowerCase(std::string_view text);
 bool EqualNames(std::string_view a, std::string_view b);
 
-/// An order of names in which those that differ in case alone are one.
+/// An order of names in which those that differ in case alone are one. The shorter come first: most
+/// names of a schema begin alike.
 struct NameOrder {
   using is_transparent = void;
   bool operator()(std::string_view a, std::string_view b) const;

@@ -14,6 +14,10 @@ bool LocalTime(int64_t secondsSince1970, std::tm& time);
 /// The moment in UTC, under the same condition.
 bool UtcTime(int64_t secondsSince1970, std::tm& time);
 
+/// Seconds from some moment of the past, off the clock that is cheapest to read: it tells whether a
+/// second has gone by, not what time it is.
+int64_t PassingSeconds();
+
 /// Takes the time zone from the environment variable TZ, or where it is unset from the system.
 void ReadTimeZone();
 

@@ -23,8 +23,6 @@ std::optional<uint16_t> NumberOf(std::string_view text) {
 
 std::optional<uint16_t> ReadIniNumber(const std::filesystem::path& file, const char* section,
                                       const char* key) {
-  std::error_code error;
-  if (!std::filesystem::exists(file, error)) return std::nullopt;
   return ParseIniNumber(ReadFile(file), section, key);
 }
 

@@ -8,10 +8,10 @@
 
 namespace tqcim::store {
 
-/// The value of a key as a 16-bit number, decimal; nothing where the file, the section or the key
-/// is missing or the value isn't such a number. Section and key match without regard to case; the
+/// The value of a key as a 16-bit number, decimal; nothing where the section or the key is
+/// missing or the value isn't such a number. Section and key match without regard to case; the
 /// first match counts. Lines that begin with ';' or '#' are comments. Throws StoreError for a file
-/// that is there and can't be read.
+/// that can't be read.
 std::optional<uint16_t> ReadIniNumber(const std::filesystem::path& file, const char* section,
                                       const char* key);
 /// The same for contents at hand.

@@ -5,6 +5,12 @@
 #include <utility>
 
 namespace tqcim::store {
+namespace {
+
+/// Marks in the count of late holds that there will be no more.
+constexpr int64_t kClosed = int64_t{1} << 62;
+
+}  // namespace
 
 Snapshot::Snapshot(std::vector<StoredObject> objects)
     : objects_(std::move(objects)), emptyList_(MakeList({})) {
@@ -24,18 +30,30 @@ const StoredObject* Snapshot::Find(uint32_t oid) const {
 }
 
 uint32_t* Snapshot::Children(uint32_t parent, uint16_t type) const {
-  if (Find(parent) == nullptr) return nullptr;
   const auto found = lists_.find({parent, type});
+  if (found == lists_.end() && Find(parent) == nullptr) return nullptr;
   const ListBlock& block = found == lists_.end() ? emptyList_ : found->second;
   return reinterpret_cast<uint32_t*>(block.get() + sizeof(BlockPrefix));
 }
 
-bool Snapshot::Hold() {
-  uint32_t holds = holds_.load(std::memory_order_acquire);
-  while (holds != 0) {
-    if (holds_.compare_exchange_weak(holds, holds + 1, std::memory_order_acq_rel)) return true;
-  }
+bool Snapshot::HoldRetired() {
+  if ((lateHolds_.fetch_add(1, std::memory_order_relaxed) & kClosed) == 0) return true;
+  lateHolds_.fetch_sub(1, std::memory_order_relaxed);
   return false;
+}
+
+bool Snapshot::IsHeld() const {
+  if (inService_.load(std::memory_order_acquire)) return true;
+  const int64_t holds = holds_.Sum();
+  return holds + (lateHolds_.load(std::memory_order_acquire) & ~kClosed) != 0;
+}
+
+bool Snapshot::Close() {
+  if (inService_.load(std::memory_order_acquire)) return false;
+  const int64_t holds = holds_.Sum();
+  int64_t late = lateHolds_.load(std::memory_order_acquire);
+  return holds + late == 0 &&
+         lateHolds_.compare_exchange_strong(late, late | kClosed, std::memory_order_acq_rel);
 }
 
 Snapshot::ListBlock Snapshot::MakeList(std::span<const uint32_t> oids) {

@@ -10,6 +10,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "platform/shards.h"
+
 namespace tqcim::store {
 
 class Snapshot;
@@ -27,7 +29,7 @@ struct BlockPrefix {
   /// The snapshot that holds a shared list.
   Snapshot* owner;
   BlockKind kind;
-  /// The block's length in bytes, without this prefix.
+  /// The block's room in bytes, without this prefix.
   uint32_t size;
 };
 static_assert(sizeof(BlockPrefix) == 16, "blocks stay aligned as malloc aligns them");
@@ -81,14 +83,21 @@ class Snapshot {
   /// none; null where there is no such parent.
   uint32_t* Children(uint32_t parent, uint16_t type) const;
 
-  /// One more hold, unless the last one is gone already.
-  bool Hold();
-  /// One more hold of a snapshot that somebody is known to hold.
-  void HoldToo() { holds_.fetch_add(1, std::memory_order_relaxed); }
-  void Release() { holds_.fetch_sub(1, std::memory_order_acq_rel); }
-  bool IsHeld() const { return holds_.load(std::memory_order_acquire) != 0; }
-  /// The holds of callers and of the store.
-  uint32_t Holds() const { return holds_.load(std::memory_order_acquire); }
+  /// One more hold of the snapshot in service.
+  void Hold() { ++holds_; }
+  /// Gives any hold back.
+  void Release() { --holds_; }
+  /// The store doesn't hold it any more. From here on nobody calls Hold.
+  void Retire() { inService_.store(false, std::memory_order_release); }
+  /// One more hold of a snapshot that is out of service or about to be, unless it was closed.
+  bool HoldRetired();
+
+  /// Whether the store or a caller holds it. May still be true just after the last hold went, and
+  /// is never false while there is one.
+  bool IsHeld() const;
+  /// Closes it where nobody holds it: nobody will again. False, and nothing is done, where somebody
+  /// does.
+  bool Close();
 
  private:
   struct ListKey {
@@ -110,7 +119,14 @@ class Snapshot {
   std::unordered_map<uint32_t, const StoredObject*> byOid_;
   std::unordered_map<ListKey, ListBlock, ListKeyHash> lists_;
   ListBlock emptyList_;
-  std::atomic<uint32_t> holds_{1};
+
+  std::atomic<bool> inService_{true};
+  /// The callers' holds less `lateHolds_`.
+  ShardedCount holds_;
+  /// What HoldRetired gave. Never falls: holds are given back to `holds_`. There only counting down
+  /// is left once the snapshot is retired, so that a sum is never too small if this is read after
+  /// it.
+  std::atomic<int64_t> lateHolds_{0};
 };
 
 }  // namespace tqcim::store

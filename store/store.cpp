@@ -3,8 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
-#include <string>
-#include <string_view>
+#include <optional>
 #include <thread>
 #include <utility>
 
@@ -42,12 +41,14 @@ void* CopyOf(const LogRecord& record) {
   return block;
 }
 
-/// One of so many shards, mostly another for another thread: their stacks stand apart.
-size_t StackShard(const void* onStack, size_t count) {
-  constexpr unsigned kLeastStackBits = 16;
-  constexpr uint64_t kGoldenRatio = 0x9E3779B97F4A7C15;
-  const uint64_t place = reinterpret_cast<uintptr_t>(onStack) >> kLeastStackBits;
-  return (place * kGoldenRatio >> 32) % count;
+/// The units before the terminator, of which there may be none within the room.
+std::optional<size_t> LengthOfUtf16(const std::byte* utf16, size_t room) {
+  for (size_t length = 0; length < room; ++length) {
+    char16_t unit;
+    std::memcpy(&unit, utf16 + length * sizeof unit, sizeof unit);
+    if (unit == 0) return length;
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -55,7 +56,7 @@ size_t StackShard(const void* onStack, size_t count) {
 class Store::ReadSection {
  public:
   explicit ReadSection(const Store& store) {
-    ReaderCounts& counts = store.readers_[StackShard(this, store.readers_.size())];
+    ReaderCounts& counts = store.readers_[ShardOfThread()];
     for (;;) {
       const uint64_t epoch = store.epoch_.load();
       count_ = &counts.of[epoch % 2];
@@ -82,8 +83,7 @@ Store::~Store() {
   delete view_.load();
 }
 
-void Store::OpenOnce(const std::function<std::unique_ptr<Snapshot>()>& load) {
-  if (opened_.load(std::memory_order_acquire)) return;
+void Store::OpenFirst(const std::function<std::unique_ptr<Snapshot>()>& load) {
   const std::lock_guard lock(refresh_);
   if (!opened_.load(std::memory_order_relaxed)) Publish(load());
 }
@@ -128,13 +128,12 @@ void* Store::ListChildren(uint32_t parent, uint16_t type) const {
   if (view->current == nullptr) return nullptr;
   uint32_t* list = view->current->Children(parent, type);
   if (list != nullptr) {
-    // The store holds it as long as a reader sees it as the one in service.
-    view->current->HoldToo();
+    view->current->Hold();
     return list;
   }
   for (Snapshot* retired : view->retired) {
     list = retired->Children(parent, type);
-    if (list != nullptr && retired->Hold()) return list;
+    if (list != nullptr && retired->IsHeld() && retired->HoldRetired()) return list;
   }
   return nullptr;
 }
@@ -142,14 +141,11 @@ void* Store::ListChildren(uint32_t parent, uint16_t type) const {
 void* Store::TextAt(void* object, uint32_t offset) {
   const uint32_t size = PrefixOf(object)->size;
   if (offset < layout::header::kSize || offset >= size) return nullptr;
-  std::u16string text((size - offset) / sizeof(char16_t), u'\0');
-  std::memcpy(text.data(), static_cast<const std::byte*>(object) + offset,
-              text.size() * sizeof(char16_t));
-  const size_t length = text.find(u'\0');
-  if (length == std::u16string::npos) return nullptr;
-  const std::string utf8 = Utf8FromUtf16(std::u16string_view(text).substr(0, length));
-  std::byte* block = NewBlock(BlockKind::kText, utf8.size() + 1);
-  if (block != nullptr) std::memcpy(block, utf8.c_str(), utf8.size() + 1);
+  const std::byte* const utf16 = static_cast<const std::byte*>(object) + offset;
+  const std::optional<size_t> units = LengthOfUtf16(utf16, (size - offset) / sizeof(char16_t));
+  if (!units) return nullptr;
+  std::byte* block = NewBlock(BlockKind::kText, *units * kUtf8BytesPerUnit + 1);
+  if (block != nullptr) *PutUtf8(utf16, *units, reinterpret_cast<char*>(block)) = '\0';
   return block;
 }
 
@@ -175,9 +171,8 @@ void Store::Publish(std::unique_ptr<Snapshot> snapshot) {
   InstallView(current);
   opened_.store(true, std::memory_order_release);
   if (previous == nullptr) return;
-  // No reader sees `previous` as the one in service any more, so that holds on it only come from
-  // the lists that callers have.
-  previous->Release();
+  // No reader sees `previous` as the one in service any more.
+  previous->Retire();
   InstallView(current);
 }
 
@@ -190,7 +185,7 @@ void Store::InstallView(Snapshot* current) {
   gone.reserve(snapshots_.size());
   view->retired.reserve(snapshots_.size());
   for (auto& snapshot : snapshots_) {
-    const bool held = snapshot->IsHeld();
+    const bool held = !snapshot->Close();
     if (held && snapshot.get() != current) view->retired.push_back(snapshot.get());
     (held ? kept : gone).push_back(std::move(snapshot));
   }

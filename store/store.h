@@ -10,6 +10,7 @@
 #include <mutex>
 #include <vector>
 
+#include "platform/shards.h"
 #include "store/snapshot.h"
 
 namespace tqcim::store {
@@ -32,7 +33,10 @@ class Store {
 
   /// Puts the snapshot that `load` returns in service, unless one is in service already. Of callers
   /// that come at once, one loads and the others wait for it.
-  void OpenOnce(const std::function<std::unique_ptr<Snapshot>()>& load);
+  template <typename Load>
+  void OpenOnce(Load load) {
+    if (!opened_.load(std::memory_order_acquire)) OpenFirst(load);
+  }
   /// Puts a snapshot in service.
   void Replace(std::unique_ptr<Snapshot> snapshot);
 
@@ -65,6 +69,7 @@ class Store {
   template <typename Take>
   auto WithObject(uint32_t oid, Take take) const;
 
+  void OpenFirst(const std::function<std::unique_ptr<Snapshot>()>& load);
   void Publish(std::unique_ptr<Snapshot> snapshot);
   /// Shows readers `current` and the other snapshots that are still held, and frees those that
   /// aren't when no reader sees them any more.
@@ -78,12 +83,10 @@ class Store {
   /// until the old slot is empty: then nobody sees the old view any more, and readers that keep
   /// coming can't hold the refresh up.
   std::atomic<uint64_t> epoch_{0};
-  /// There are several of both, so that the readers of one core don't wait for the cache line of
-  /// another's.
-  struct alignas(64) ReaderCounts {
+  struct alignas(kCacheLine) ReaderCounts {
     std::array<std::atomic<uint32_t>, 2> of{};
   };
-  mutable std::array<ReaderCounts, 16> readers_{};
+  mutable std::array<ReaderCounts, kShards> readers_{};
 
   mutable std::mutex refresh_;
   std::vector<std::unique_ptr<Snapshot>> snapshots_;

@@ -53,8 +53,9 @@ int32_t SMReadINIFileValue(const char* section, const char* key, uint32_t valueT
       size == nullptr || *size < sizeof(uint16_t) || valueType != kNumber16) {
     return kFailed;
   }
-  const std::optional<uint16_t> number = NullOnFailure([&] {
+  const auto number = NullOnFailure([&]() -> std::optional<uint16_t> {
     static const std::filesystem::path folder = LoadConfiguration(LibraryFolder()).iniFolder;
+    if (!HasFile(folder, fileName)) return std::nullopt;
     return ReadIniNumber(folder / fileName, section, key);
   });
   if (number) {

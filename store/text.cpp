@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace tqcim::store {
 namespace {
@@ -35,23 +36,24 @@ char32_t TakeCodePoint(std::string_view utf8, size_t& position) {
   return codePoint;
 }
 
-void AppendUtf8(std::string& utf8, char32_t codePoint) {
-  const auto append = [&](char32_t byte) { utf8 += static_cast<char>(static_cast<uint8_t>(byte)); };
+char* PutCodePoint(char32_t codePoint, char* utf8) {
+  const auto put = [&](char32_t byte) { *utf8++ = static_cast<char>(static_cast<uint8_t>(byte)); };
   if (codePoint < 0x80) {
-    append(codePoint);
-    return;
+    put(codePoint);
+    return utf8;
   }
   if (codePoint < 0x800) {
-    append(0xC0 | codePoint >> 6);
+    put(0xC0 | codePoint >> 6);
   } else if (codePoint < 0x10000) {
-    append(0xE0 | codePoint >> 12);
-    append(0x80 | (codePoint >> 6 & 0x3F));
+    put(0xE0 | codePoint >> 12);
+    put(0x80 | (codePoint >> 6 & 0x3F));
   } else {
-    append(0xF0 | codePoint >> 18);
-    append(0x80 | (codePoint >> 12 & 0x3F));
-    append(0x80 | (codePoint >> 6 & 0x3F));
+    put(0xF0 | codePoint >> 18);
+    put(0x80 | (codePoint >> 12 & 0x3F));
+    put(0x80 | (codePoint >> 6 & 0x3F));
   }
-  append(0x80 | (codePoint & 0x3F));
+  put(0x80 | (codePoint & 0x3F));
+  return utf8;
 }
 
 }  // namespace
@@ -72,19 +74,29 @@ std::optional<std::u16string> Utf16FromUtf8(std::string_view utf8) {
   return utf16;
 }
 
-std::string Utf8FromUtf16(std::u16string_view utf16) {
-  std::string utf8;
-  utf8.reserve(utf16.size());
-  for (size_t position = 0; position < utf16.size(); ++position) {
-    char32_t codePoint = utf16[position];
-    if (IsHighSurrogate(codePoint) && position + 1 < utf16.size() &&
-        IsLowSurrogate(utf16[position + 1])) {
-      codePoint = 0x10000 + ((codePoint - 0xD800) << 10) + (utf16[++position] - 0xDC00U);
+char* PutUtf8(const void* utf16, size_t units, char* utf8) {
+  const auto unitAt = [utf16](size_t position) {
+    char16_t unit;
+    std::memcpy(&unit, static_cast<const char*>(utf16) + position * sizeof unit, sizeof unit);
+    return char32_t{unit};
+  };
+  for (size_t position = 0; position < units; ++position) {
+    char32_t codePoint = unitAt(position);
+    if (IsHighSurrogate(codePoint) && position + 1 < units &&
+        IsLowSurrogate(unitAt(position + 1))) {
+      codePoint = 0x10000 + ((codePoint - 0xD800) << 10) + (unitAt(++position) - 0xDC00U);
     } else if (IsHighSurrogate(codePoint) || IsLowSurrogate(codePoint)) {
       codePoint = kReplacement;
     }
-    AppendUtf8(utf8, codePoint);
+    utf8 = PutCodePoint(codePoint, utf8);
   }
+  return utf8;
+}
+
+std::string Utf8FromUtf16(std::u16string_view utf16) {
+  std::string utf8(utf16.size() * kUtf8BytesPerUnit, '\0');
+  const char* end = PutUtf8(utf16.data(), utf16.size(), utf8.data());
+  utf8.resize(static_cast<size_t>(end - utf8.data()));
   return utf8;
 }
 

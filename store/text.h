@@ -1,6 +1,7 @@
 /// Conversion between UTF-8 and the UTF-16 code units in which data objects hold their texts.
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,7 +12,14 @@ namespace tqcim::store {
 /// past U+10FFFF included).
 std::optional<std::u16string> Utf16FromUtf8(std::string_view utf8);
 
-/// The text as UTF-8; an unpaired surrogate becomes U+FFFD.
+/// UTF-8 takes at most so many bytes for a UTF-16 unit.
+inline constexpr size_t kUtf8BytesPerUnit = 3;
+
+/// Writes `units` UTF-16 units, wherever in memory they stand, as UTF-8 and returns its end; there
+/// is room for kUtf8BytesPerUnit bytes each. An unpaired surrogate becomes U+FFFD.
+char* PutUtf8(const void* utf16, size_t units, char* utf8);
+
+/// The text as UTF-8, by the same rules.
 std::string Utf8FromUtf16(std::u16string_view utf16);
 
 }  // namespace tqcim::store

@@ -21,7 +21,7 @@ HRESULT EnumerateSensorPackage(const SensorPackageClass& packageClass,
       if (!instance) return lastRelease;
       const ObjectPath sensor = FormatObjectPath(
           packageClass.sensorPathFormat, {computerName.text(), static_cast<int32_t>(k * 100 + i)});
-      PutEnds(instance, chassisPath->text, sensor.text);
+      PutEnds(instance, chassisPath->View(), sensor.View());
       instance.Indicate(sink);
       lastRelease = instance.Release();
     }

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "core/base_class.h"
+#include "core/object_path.h"
 
 namespace tqcim {
 
@@ -11,7 +12,7 @@ namespace tqcim {
 struct SensorPackageClass {
   uint16_t objectType;
   /// Reference to a sensor: "%s" takes the computer's name, "%d" the sensor number.
-  const OLECHAR* sensorPathFormat;
+  PathFormat sensorPathFormat;
 };
 
 /// Pairs each chassis with its sensors, from the counts alone; a sensor's number is the chassis's

@@ -7,10 +7,10 @@
 namespace tqcim {
 namespace {
 
-constexpr const OLECHAR* kTachometerPath = OLESTR(
+constexpr PathFormat kTachometerPath = OLESTR(
     "\\\\.\\root\\cimv2\\vorn:CIM_Tachometer.CreationClassName=\"CIM_Tachometer\","
     "SystemName=\"%s\",DeviceID=\"%d\",SystemCreationClassName=\"CIM_ComputerSystem\"");
-constexpr const OLECHAR* kFanPath = OLESTR(
+constexpr PathFormat kFanPath = OLESTR(
     "\\\\.\\root\\cimv2\\vorn:CIM_Fan.CreationClassName=\"CIM_Fan\","
     "SystemName=\"%s\",DeviceID=\"%d\",SystemCreationClassName=\"CIM_ComputerSystem\"");
 
@@ -33,7 +33,7 @@ HRESULT VORN_FanSensor::EnumerateInstances(IWbemClassObject* classDefinition,
       const ObjectPath tachometer =
           FormatObjectPath(kTachometerPath, {computerName.text(), number});
       const ObjectPath fan = FormatObjectPath(kFanPath, {computerName.text(), number});
-      PutEnds(instance, fan.text, tachometer.text);
+      PutEnds(instance, fan.View(), tachometer.View());
       lastIndicate = instance.Indicate(sink);
     }
   }

@@ -10,7 +10,7 @@ namespace {
 
 namespace probe = layout::probe;
 
-constexpr const OLECHAR* kSensorPath = OLESTR(
+constexpr PathFormat kSensorPath = OLESTR(
     "\\\\.\\root\\cimv2\\vorn:CIM_DiscreteSensor.CreationClassName=\"CIM_DiscreteSensor\","
     "SystemName=\"%s\",DeviceID=\"%d\",SystemCreationClassName=\"CIM_ComputerSystem\"");
 
@@ -34,7 +34,7 @@ void PairWithChassis(const ObjectPath& chassisPath, uint32_t chassisPosition,
           FormatObjectPath(kSensorPath, {computerName.text(), static_cast<int32_t>(object.Oid())});
       Instance instance(classDefinition);
       if (!instance) return;
-      PutEnds(instance, chassisPath.text, sensor.text);
+      PutEnds(instance, chassisPath.View(), sensor.View());
       instance.Indicate(sink);
     }
   }

@@ -10,7 +10,7 @@ namespace {
 
 /// Supplies are referred to by number here, while their own instances go by name: clients know
 /// both.
-constexpr const OLECHAR* kSupplyPath = OLESTR(
+constexpr PathFormat kSupplyPath = OLESTR(
     "\\\\.\\root\\cimv2\\vorn:CIM_PowerSupply.CreationClassName=\"CIM_PowerSupply\","
     "SystemName=\"%s\",DeviceID=\"%d\",SystemCreationClassName=\"CIM_ComputerSystem\"");
 
@@ -33,7 +33,7 @@ HRESULT CIM_PackagePowerSupply::EnumerateInstances(IWbemClassObject* classDefini
       const ObjectPath supplyPath = FormatObjectPath(
           kSupplyPath, {computerName.text(), static_cast<int32_t>(c * 100 + counter)});
       if (!instance) return lastRelease;
-      PutEnds(instance, supplyPath.text, chassisPath->text);
+      PutEnds(instance, supplyPath.View(), chassisPath->View());
       instance.Indicate(sink);
       lastRelease = instance.Release();
     }

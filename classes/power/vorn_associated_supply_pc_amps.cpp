@@ -38,7 +38,7 @@ HRESULT Vorn_AssociatedSupplyPCAmps::EnumerateInstances(IWbemClassObject* classD
       const ObjectPath sensorPath = AmpsSensorPath(computerName, probeObject[probe::kName]);
       Instance instance(classDefinition);
       if (!instance) return lastRelease;
-      PutEnds(instance, supplyPath.text, sensorPath.text);
+      PutEnds(instance, supplyPath.View(), sensorPath.View());
       instance.Indicate(sink);
       lastRelease = instance.Release();
     }

@@ -17,7 +17,7 @@ HRESULT VORN_AssociatedSystemPCData::EnumerateInstances(IWbemClassObject* classD
     if (!object) break;
     Instance instance(classDefinition);
     if (!instance) break;
-    PutEnds(instance, SystemPath(computerName).text, object[record::kName]);
+    PutEnds(instance, SystemPath(computerName).View(), object[record::kName]);
     instance.Indicate(sink);
     lastRelease = instance.Release();
   }

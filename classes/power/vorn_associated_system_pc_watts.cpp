@@ -19,7 +19,8 @@ HRESULT VORN_AssociatedSystemPCWatts::EnumerateInstances(IWbemClassObject* class
     if (!IsWattsProbe(object)) continue;
     Instance instance(classDefinition);
     if (!instance) return lastRelease;
-    PutEnds(instance, systemPath.text, WattsSensorPath(computerName, object[probe::kName]).text);
+    PutEnds(instance, systemPath.View(),
+            WattsSensorPath(computerName, object[probe::kName]).View());
     instance.Indicate(sink);
     lastRelease = instance.Release();
   }

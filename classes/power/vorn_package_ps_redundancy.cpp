@@ -22,7 +22,7 @@ HRESULT VORN_PackagePSRedundancy::EnumerateInstances(IWbemClassObject* classDefi
       const ObjectPath groupPath = RedundancyGroupPath(group, c);
       Instance instance(classDefinition);
       if (!instance) return lastRelease;
-      PutEnds(instance, chassisPath->text, groupPath.text);
+      PutEnds(instance, chassisPath->View(), groupPath.View());
       instance.Indicate(sink);
       lastRelease = instance.Release();
     }

@@ -32,7 +32,7 @@ HRESULT Vorn_PSRedundancy::EnumerateInstances(IWbemClassObject* classDefinition,
         const ObjectPath supplyPath = AssociatedSupplyPath(computerName, object[supply::kName]);
         Instance instance(classDefinition);
         if (!instance) return lastRelease;
-        PutEnds(instance, supplyPath.text, groupPath.text);
+        PutEnds(instance, supplyPath.View(), groupPath.View());
         instance.Indicate(sink);
         lastRelease = instance.Release();
       }

@@ -6,14 +6,14 @@ namespace tqcim {
 
 namespace runtime {
 
-std::atomic<int64_t> liveBstrs{0};
-std::atomic<int64_t> liveSafeArrays{0};
-std::atomic<int64_t> liveTaskBlocks{0};
+ShardedCount liveBstrs;
+ShardedCount liveSafeArrays;
+ShardedCount liveTaskBlocks;
 
 }  // namespace runtime
 
 RuntimeLedger CurrentRuntimeLedger() {
-  return {runtime::liveBstrs, runtime::liveSafeArrays, runtime::liveTaskBlocks,
+  return {runtime::liveBstrs.Sum(), runtime::liveSafeArrays.Sum(), runtime::liveTaskBlocks.Sum(),
           runtime::RegisteredClasses(), runtime::InitialisationsOfThread()};
 }
 

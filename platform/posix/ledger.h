@@ -1,14 +1,15 @@
 /// The counts behind runtime_ledger.h.
 #pragma once
 
-#include <atomic>
 #include <cstdint>
+
+#include "platform/shards.h"
 
 namespace tqcim::runtime {
 
-extern std::atomic<int64_t> liveBstrs;
-extern std::atomic<int64_t> liveSafeArrays;
-extern std::atomic<int64_t> liveTaskBlocks;
+extern ShardedCount liveBstrs;
+extern ShardedCount liveSafeArrays;
+extern ShardedCount liveTaskBlocks;
 
 int64_t RegisteredClasses();
 uint32_t InitialisationsOfThread();

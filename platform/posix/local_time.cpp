@@ -12,6 +12,10 @@ bool UtcTime(int64_t secondsSince1970, std::tm& time) {
   return gmtime_r(&seconds, &time) != nullptr;
 }
 
+int64_t PassingSeconds() {
+  return time(nullptr);
+}
+
 void ReadTimeZone() {
   tzset();
 }

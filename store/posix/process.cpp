@@ -2,6 +2,7 @@
 
 #include <dlfcn.h>
 #include <link.h>
+#include <unistd.h>
 
 #include <cstdlib>
 
@@ -20,6 +21,13 @@ std::filesystem::path LibraryFolder() {
   std::error_code unreadable;
   return std::filesystem::canonical(isProgram ? "/proc/self/exe" : map->l_name, unreadable)
       .parent_path();
+}
+
+bool HasFile(const std::filesystem::path& folder, const char* name) {
+  std::string path = folder.native();
+  path += '/';
+  path += name;
+  return access(path.c_str(), F_OK) == 0;
 }
 
 std::optional<std::string> EnvironmentText(const char* name) {

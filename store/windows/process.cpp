@@ -22,6 +22,13 @@ std::filesystem::path LibraryFolder() {
   }
 }
 
+bool HasFile(const std::filesystem::path& folder, const char* name) {
+  std::wstring path = folder.native();
+  path += L'\\';
+  path.append(name, name + std::char_traits<char>::length(name));
+  return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
 std::optional<std::string> EnvironmentText(const char* name) {
   const std::wstring wideName(name, name + std::char_traits<char>::length(name));
   std::wstring value(GetEnvironmentVariableW(wideName.c_str(), nullptr, 0), L'\0');

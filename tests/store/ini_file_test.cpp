@@ -58,12 +58,12 @@ TEST(IniFile, WhatIsNotThereIsNothing) {
   EXPECT_EQ(NumberIn("[Network Information]\n;nic.disabled=1\n"), std::nullopt);
   EXPECT_EQ(NumberIn("[Network Information]\nnic.disabled\n"), std::nullopt);
   EXPECT_EQ(NumberIn("[Network Information]\nnic.disabled.too=1\n"), std::nullopt);
-  EXPECT_EQ(ReadIniNumber("no-such-folder/f.ini", "s", "k"), std::nullopt);
 }
 
 TEST(IniFile, WhatIsNoFileIsRefused) {
   const testing::TemporaryFolder folder;
   EXPECT_THROW(ReadIniNumber(folder.Path(), "s", "k"), StoreError);
+  EXPECT_THROW(ReadIniNumber(folder.Path() / "none.ini", "s", "k"), StoreError);
 }
 
 TEST(IniFile, WhatIsNoSixteenBitNumberIsNothing) {

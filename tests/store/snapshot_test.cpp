@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <thread>
 
 #include "platform/layouts/catalogue.h"
 #include "store/snapshot_builder.h"
@@ -179,6 +180,31 @@ TEST(Snapshot, NothingAtAllIsAStoreToo) {
   const auto snapshot = SnapshotBuilder().Build();
   EXPECT_EQ(snapshot->Find(1), nullptr);
   EXPECT_EQ(snapshot->Children(1, 17), nullptr);
+}
+
+TEST(Snapshot, IsHeldInServiceAndUntilEveryHoldIsGivenBackByWhateverThread) {
+  const auto snapshot = WithChassis().Build();
+  const auto elsewhere = [](auto action) { std::thread(action).join(); };
+  EXPECT_TRUE(snapshot->IsHeld());
+  EXPECT_FALSE(snapshot->Close()) << "in service";
+  snapshot->Hold();
+  elsewhere([&] { snapshot->Hold(); });
+  snapshot->Retire();
+  EXPECT_TRUE(snapshot->HoldRetired());
+  for (int given = 0; given < 3; ++given) {
+    EXPECT_TRUE(snapshot->IsHeld());
+    EXPECT_FALSE(snapshot->Close()) << given << " given back";
+    elsewhere([&] { snapshot->Release(); });
+  }
+  EXPECT_FALSE(snapshot->IsHeld());
+}
+
+TEST(Snapshot, IsHeldByNobodyOnceItIsClosed) {
+  const auto snapshot = WithChassis().Build();
+  snapshot->Retire();
+  EXPECT_TRUE(snapshot->Close());
+  EXPECT_FALSE(snapshot->HoldRetired());
+  EXPECT_FALSE(snapshot->IsHeld());
 }
 
 TEST(SnapshotBuilder, RefusesAnOidThatIsTaken) {

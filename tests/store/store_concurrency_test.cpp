@@ -31,8 +31,8 @@ std::unique_ptr<Snapshot> Generation(uint32_t number) {
   return builder.Build();
 }
 
-/// Walks the firmware of whatever generation is in service. Every object of the list must be there
-/// and of the list's own generation.
+/// Walks the firmware of whatever generation is in service. Every object of the list must be there,
+/// be of the list's own generation, and be a parent that can be listed.
 void Walk(const Store& store, std::atomic<int>& failures) {
   void* list = store.ListChildren(2, 19);
   const std::vector<uint32_t> oids = Oids(list);
@@ -47,6 +47,9 @@ void Walk(const Store& store, std::atomic<int>& failures) {
       Store::Free(text);
     }
     Store::Free(object);
+    void* children = store.ListChildren(oid, 19);
+    if (children == nullptr) ++failures;
+    Store::Free(children);
   }
   Store::Free(list);
 }
