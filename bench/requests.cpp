@@ -13,12 +13,7 @@ class CountingSink final : public host::ComObject<IWbemObjectSink, IID_IWbemObje
 
   HRESULT STDMETHODCALLTYPE Indicate(LONG count, IWbemClassObject** objects) override {
     count_ += static_cast<size_t>(count);
-    if (wantsPath_) {
-      // The reference that Behind gives is given back through the interface.
-      const host::ClassObject* const object = host::ClassObject::Behind(objects[0]);
-      path_ = object->ToInstance().path;
-      objects[0]->Release();
-    }
+    if (wantsPath_) path_ = host::ClassObject::Behind(objects[0])->ToInstance().path;
     return S_OK;
   }
   HRESULT STDMETHODCALLTYPE SetStatus(LONG, HRESULT, BSTR, IWbemClassObject*) override {

@@ -100,31 +100,45 @@ class Server {
   }
 
   void ScaleObjects(const ScaledType& row, uint32_t count) {
-    std::vector<Json> few;
+    std::vector<Family> few;
     for (const Json& object : Objects()) {
       if (object.at("type") != row.type) continue;
-      if (row.like == 0 || object.at("oid") == row.like) few.push_back(object);
+      if (row.like == 0 || object.at("oid") == row.like)
+        few.push_back({object, ChildrenOf(object)});
     }
-    const std::vector<Json> all = Objects();
-    for (uint32_t i = static_cast<uint32_t>(few.size()); i < count; ++i) {
-      Copy(few[i % few.size()], all);
-    }
+    for (uint32_t i = static_cast<uint32_t>(few.size()); i < count; ++i) Add(few[i % few.size()]);
   }
 
-  /// A copy of the object, and of its own children.
-  void Copy(Json object, const std::vector<Json>& all) {
-    const uint32_t former = object.at("oid");
-    object["oid"] = nextOid_++;
-    for (Json child : all) {
-      Json parents = child.value("parents", Json::array());
-      const auto own = std::find(parents.begin(), parents.end(), former);
-      if (own == parents.end()) continue;
-      *own = object.at("oid");
-      child["parents"] = parents;
+  /// An object, and a child of each type that it has.
+  struct Family {
+    Json object;
+    std::vector<Json> children;
+  };
+
+  std::vector<Json> ChildrenOf(const Json& parent) {
+    std::vector<Json> children;
+    for (const Json& object : Objects()) {
+      const Json parents = object.value("parents", Json::array());
+      const auto isOfType = [&](const Json& child) {
+        return child.at("type") == object.at("type");
+      };
+      if (std::ranges::find(parents, parent.at("oid")) != parents.end() &&
+          std::ranges::none_of(children, isOfType)) {
+        children.push_back(object);
+      }
+    }
+    return children;
+  }
+
+  /// A copy of the family with OIDs of its own. The children are the copy's alone.
+  void Add(Family family) {
+    family.object["oid"] = nextOid_++;
+    for (Json& child : family.children) {
+      child["parents"] = Json::array({family.object.at("oid")});
       child["oid"] = nextOid_++;
       Objects().push_back(std::move(child));
     }
-    Objects().push_back(std::move(object));
+    Objects().push_back(std::move(family.object));
   }
 
   Json document_;

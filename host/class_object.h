@@ -22,8 +22,8 @@ class ClassObject final
   static Com<ClassObject> Definition(std::shared_ptr<const Schema> schema,
                                      const ClassDefinition& definition);
 
-  /// The host's own object behind an interface; null if another implementation stands there. The
-  /// reference is the caller's.
+  /// The host's own object behind an interface; null if another implementation stands there. It
+  /// lives as long as the caller's reference to the interface.
   static const ClassObject* Behind(IWbemClassObject* object);
 
   /// An instance as plain values.

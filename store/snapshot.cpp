@@ -1,6 +1,7 @@
 #include "store/snapshot.h"
 
 #include <cstring>
+#include <map>
 #include <new>
 #include <utility>
 
@@ -14,7 +15,8 @@ constexpr int64_t kClosed = int64_t{1} << 62;
 
 Snapshot::Snapshot(std::vector<StoredObject> objects)
     : objects_(std::move(objects)), emptyList_(MakeList({})) {
-  std::unordered_map<ListKey, std::vector<uint32_t>, ListKeyHash> children;
+  // Ordered, so that the lists of neighbours lie side by side: walks go from one to the next.
+  std::map<ListKey, std::vector<uint32_t>> children;
   for (const StoredObject& object : objects_) {
     byOid_.emplace(object.oid, &object);
     for (const uint32_t parent : object.parents) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -103,7 +104,7 @@ class Snapshot {
   struct ListKey {
     uint32_t parent;
     uint16_t type;
-    bool operator==(const ListKey&) const = default;
+    auto operator<=>(const ListKey&) const = default;
   };
   struct ListKeyHash {
     size_t operator()(const ListKey& key) const {

@@ -32,7 +32,7 @@ class Shortest final : public benchmark::BenchmarkReporter {
 std::vector<double> BestTimes(const std::vector<Work>& works) {
   static const bool initialised = [] {
     std::vector<std::string> options = {"bench", "--benchmark_enable_random_interleaving=true",
-                                        "--benchmark_repetitions=9", "--benchmark_min_time=0.02"};
+                                        "--benchmark_repetitions=15", "--benchmark_min_time=0.02"};
     std::vector<char*> arguments;
     for (std::string& option : options) arguments.push_back(option.data());
     int count = static_cast<int>(arguments.size());

@@ -25,7 +25,7 @@ double SecondsOf(const Work& work) {
 }  // namespace
 
 std::vector<double> BestTimes(const std::vector<Work>& works) {
-  constexpr int kTurns = 9;
+  constexpr int kTurns = 15;
   std::vector<double> best(works.size(), std::numeric_limits<double>::infinity());
   for (int turn = 0; turn < kTurns; ++turn) {
     for (size_t i = 0; i < works.size(); ++i) best[i] = std::min(best[i], SecondsOf(works[i]));
