@@ -50,15 +50,21 @@ bool HasKey(const ClassDefinition& definition) {
                      [](const auto& property) { return property->key; });
 }
 
-/// The property as the class now has it.
-const PropertyDefinition& AddProperty(ClassDefinition& definition, ParsedProperty parsed) {
-  const std::optional<size_t> index = definition.IndexOf(parsed.name);
+/// The property as the class now has it, of whose properties the first so many are inherited.
+const PropertyDefinition& AddProperty(ClassDefinition& definition, ParsedProperty parsed,
+                                      size_t inherited) {
   const MofPlace place = parsed.place;
   PropertyDefinition own = OwnProperty(std::move(parsed), definition.name);
-  if (index) own = Overridden(*definition.properties[*index], std::move(own), place);
-  auto& added = index ? definition.properties[*index] : definition.properties.emplace_back();
-  added = std::make_shared<const PropertyDefinition>(std::move(own));
-  return *added;
+  auto& properties = definition.properties;
+  const auto end = properties.begin() + static_cast<std::ptrdiff_t>(inherited);
+  const auto found = std::find_if(properties.begin(), end, [&](const auto& property) {
+    return EqualNames(property->name, own.name);
+  });
+  if (found == end) {
+    return *properties.emplace_back(std::make_shared<const PropertyDefinition>(std::move(own)));
+  }
+  *found = std::make_shared<const PropertyDefinition>(Overridden(**found, std::move(own), place));
+  return **found;
 }
 
 ClassDefinition Build(ParsedClass parsed, const ClassDefinition* superclass) {
@@ -75,10 +81,13 @@ ClassDefinition Build(ParsedClass parsed, const ClassDefinition* superclass) {
     definition.singleton = definition.singleton || superclass->singleton;
     definition.properties = superclass->properties;
   }
+  const size_t inherited_count = definition.properties.size();
+  definition.properties.reserve(inherited_count + parsed.properties.size());
   const bool keys_are_fixed = superclass && HasKey(*superclass);
   for (ParsedProperty& parsed_property : parsed.properties) {
     const MofPlace place = parsed_property.place;
-    const PropertyDefinition& property = AddProperty(definition, std::move(parsed_property));
+    const PropertyDefinition& property =
+        AddProperty(definition, std::move(parsed_property), inherited_count);
     if (!property.key) continue;
     if (property.array || property.type == CimType::kReal32 || property.type == CimType::kReal64) {
       throw MofError(place, "an array or a real number cannot be a key");

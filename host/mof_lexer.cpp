@@ -1,6 +1,7 @@
 #include "host/mof_lexer.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 #include "host/text.h"
@@ -20,6 +21,16 @@ bool IsHexDigit(char c) {
 bool IsIdentifierStart(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
 }
+
+/// By byte, whether it goes on with an identifier: nearly all tokens are identifiers.
+constexpr auto kGoesOn = [] {
+  std::array<bool, 256> goes_on{};
+  for (const char c : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_"
+                                       "0123456789")) {
+    goes_on[static_cast<unsigned char>(c)] = true;
+  }
+  return goes_on;
+}();
 
 /// The value of a number's digits: decimal, 0x... hexadecimal, 0... octal, ...b binary. Nothing if
 /// they are not a number, or too large for 64 bits.
@@ -128,44 +139,42 @@ MofToken MofLexer::Next() {
   token.place = Place();
   if (AtEnd()) return token;
   const char c = Peek();
-  if (IsIdentifierStart(c)) return Identifier(token);
-  if (IsDigit(c) || ((c == '+' || c == '-' || c == '.') && IsDigit(Peek(1)))) {
-    return Number(token);
-  }
-  if (c == '"') {
+  if (IsIdentifierStart(c)) {
+    Identifier(token);
+  } else if (c == '"') {
     token.kind = MofToken::Kind::kText;
     token.text = JoinedTexts();
-    return token;
-  }
-  if (c == '\'') {
-    token.kind = MofToken::Kind::kCharacter;
-    const WideText characters = ToWide(QuotedText('\''));
-    if (characters.size() != 1) {
-      throw MofError(token.place, "between single quotes stands one character");
-    }
-    token.number = static_cast<int64_t>(characters[0]);
-    return token;
-  }
-  if (std::string_view("[]{}():;,=#$").find(c) == std::string_view::npos) {
+  } else if (std::string_view("[]{}():;,=#$").find(c) != std::string_view::npos) {
+    token.kind = MofToken::Kind::kPunctuation;
+    token.text = text_.substr(position_++, 1);
+  } else if (IsDigit(c) || ((c == '+' || c == '-' || c == '.') && IsDigit(Peek(1)))) {
+    Number(token);
+  } else if (c == '\'') {
+    Character(token);
+  } else {
     throw MofError(token.place, "a character that MOF has no use for");
   }
-  token.kind = MofToken::Kind::kPunctuation;
-  token.text = text_.substr(position_++, 1);
   return token;
 }
 
-MofToken MofLexer::Identifier(MofToken token) {
+void MofLexer::Identifier(MofToken& token) {
   token.kind = MofToken::Kind::kIdentifier;
   const size_t start = position_;
-  const auto end = std::find_if(text_.begin() + static_cast<std::ptrdiff_t>(position_), text_.end(),
-                                [](char c) { return !IsIdentifierStart(c) && !IsDigit(c); });
-  position_ = static_cast<size_t>(end - text_.begin());
+  while (!AtEnd() && kGoesOn[static_cast<unsigned char>(text_[position_])]) ++position_;
   token.text = Since(start);
   RequireLength(token.text, token.place);
-  return token;
 }
 
-MofToken MofLexer::Number(MofToken token) {
+void MofLexer::Character(MofToken& token) {
+  token.kind = MofToken::Kind::kCharacter;
+  const WideText characters = ToWide(QuotedText('\''));
+  if (characters.size() != 1) {
+    throw MofError(token.place, "between single quotes stands one character");
+  }
+  token.number = static_cast<int64_t>(characters[0]);
+}
+
+void MofLexer::Number(MofToken& token) {
   const bool negative = Peek() == '-';
   if (negative || Peek() == '+') ++position_;
   const size_t start = position_;
@@ -183,11 +192,11 @@ MofToken MofLexer::Number(MofToken token) {
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error == std::errc() && end == digits.data() + digits.size()) {
       token.number = negative ? -value : value;
-      return token;
+      return;
     }
   } else {
     token.kind = MofToken::Kind::kInteger;
-    if (ReadInteger(digits, negative, token)) return token;
+    if (ReadInteger(digits, negative, token)) return;
   }
   throw MofError(token.place, "'" + std::string(digits) + "' is not a number that fits 64 bits");
 }
@@ -202,10 +211,9 @@ std::string_view MofLexer::JoinedTexts() {
 }
 
 void MofLexer::SkipPlainText(char quote) {
-  const auto stop =
-      std::find_if(text_.begin() + static_cast<std::ptrdiff_t>(position_), text_.end(),
-                   [quote](char c) { return c == quote || c == '\\' || c == '\n'; });
-  position_ = static_cast<size_t>(stop - text_.begin());
+  std::string_view plain = text_.substr(position_);
+  for (const char stop : {quote, '\n', '\\'}) plain = plain.substr(0, plain.find(stop));
+  position_ += plain.size();
 }
 
 std::string_view MofLexer::QuotedText(char quote) {

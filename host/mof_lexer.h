@@ -68,8 +68,10 @@ class MofLexer {
   /// Goes on to the quote, a backslash or the end of the line.
   void SkipPlainText(char quote);
   char32_t EscapedCharacter();
-  MofToken Identifier(MofToken token);
-  MofToken Number(MofToken token);
+  /// Each fills in the token that starts here.
+  void Identifier(MofToken& token);
+  void Character(MofToken& token);
+  void Number(MofToken& token);
 
   const std::string* file_;
   std::string_view text_;

@@ -12,7 +12,7 @@ namespace {
 
 class Parser {
  public:
-  Parser(const std::string& file, std::string_view text) : lexer_(file, text) { Take(); }
+  Parser(const std::string& file, std::string_view text) : lexer_(file, text) { Skip(); }
 
   MofDocument Parse() {
     while (token_.kind != MofToken::Kind::kEnd) Declaration();
@@ -22,13 +22,14 @@ class Parser {
  private:
   /// Gives the current token and moves on to the next.
   MofToken Take() { return std::exchange(token_, lexer_.Next()); }
+  void Skip() { token_ = lexer_.Next(); }
 
   [[noreturn]] void Refuse(const std::string& wanted) const {
     throw MofError(token_.place, wanted + " should stand here, not " + token_.Describe());
   }
   bool TakeIf(char punctuation) {
     if (!token_.Is(punctuation)) return false;
-    Take();
+    Skip();
     return true;
   }
   void Expect(char punctuation) {
@@ -36,7 +37,9 @@ class Parser {
   }
   std::string_view ExpectName(const char* what) {
     if (token_.kind != MofToken::Kind::kIdentifier) Refuse(what);
-    return Take().text;
+    const std::string_view name = token_.text;
+    Skip();
+    return name;
   }
 
   void Declaration() {
@@ -44,14 +47,14 @@ class Parser {
     if (token_.IsWord("instance")) return InstanceDeclaration();
     std::vector<Qualifier> qualifiers = QualifierList();
     if (!token_.IsWord("class")) Refuse("a class, an instance or a directive");
-    Take();
+    Skip();
     ClassDeclaration(std::move(qualifiers));
   }
 
   void Directive() {
-    Take();
+    Skip();
     if (!token_.IsWord("pragma")) Refuse("'pragma'");
-    Take();
+    Skip();
     if (token_.IsWord("include")) {
       throw MofError(token_.place, "files cannot be included: give them one by one");
     }
@@ -62,7 +65,7 @@ class Parser {
                         token_.kind == MofToken::Kind::kText ||
                         token_.kind == MofToken::Kind::kInteger || token_.Is(',');
       if (!word) Refuse("an argument of the directive or ')'");
-      Take();
+      Skip();
     }
   }
 
@@ -82,7 +85,7 @@ class Parser {
         qualifier.value = ArrayValue();
       }
       if (TakeIf(':')) {
-        while (token_.kind == MofToken::Kind::kIdentifier) Take();
+        while (token_.kind == MofToken::Kind::kIdentifier) Skip();
       }
       qualifiers.push_back(std::move(qualifier));
     } while (TakeIf(','));
@@ -118,7 +121,7 @@ class Parser {
     const MofPlace type_place = token_.place;
     const std::string_view type_name = ExpectName("the type of a property or '}'");
     if (token_.IsWord("ref")) {
-      Take();
+      Skip();
       property.type = CimType::kReference;
       property.reference_class = type_name;
     } else if (const auto type = TypeOfName(type_name)) {
@@ -131,7 +134,7 @@ class Parser {
     if (token_.Is('(')) throw MofError(token_.place, "methods are not supported");
     if (TakeIf('[')) {
       property.array = true;
-      if (token_.kind == MofToken::Kind::kInteger) Take();
+      if (token_.kind == MofToken::Kind::kInteger) Skip();
       Expect(']');
     }
     if (TakeIf('=')) {
@@ -148,14 +151,14 @@ class Parser {
   }
 
   void InstanceDeclaration() {
-    Take();
+    Skip();
     if (!token_.IsWord("of")) Refuse("'of'");
-    Take();
+    Skip();
     ParsedInstance parsed;
     parsed.place = token_.place;
     parsed.class_name = ExpectName("the name of a class");
     if (token_.IsWord("as")) {
-      Take();
+      Skip();
       Expect('$');
       aliases_.emplace(ExpectName("the name of an alias"));
     }
@@ -179,11 +182,13 @@ class Parser {
     Expect('{');
     Array array;
     if (TakeIf('}')) return array;
+    constexpr size_t kFew = 16;
+    array.reserve(kFew);
     do {
       const MofPlace place = token_.place;
-      const auto element = ToScalar(SingleValue());
+      auto element = ToScalar(SingleValue());
       if (!element) throw MofError(place, "an array holds no null");
-      array.push_back(*element);
+      array.push_back(std::move(*element));
     } while (TakeIf(','));
     Expect('}');
     return array;

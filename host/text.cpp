@@ -41,10 +41,9 @@ std::string LowerCase(std::string_view text) {
   return lower;
 }
 
-bool EqualNames(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-           return x == y || Lower(x) == Lower(y);
-         });
+bool HaveEqualLetters(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(),
+                    [](char x, char y) { return x == y || Lower(x) == Lower(y); });
 }
 
 bool NameOrder::operator()(std::string_view a, std::string_view b) const {

@@ -21,7 +21,10 @@ std::string ToUtf8(WideView wide);
 
 /// CIM names differ in nothing but the case of ASCII letters: the lower-case form stands for all.
 std::string LowerCase(std::string_view text);
-bool EqualNames(std::string_view a, std::string_view b);
+bool HaveEqualLetters(std::string_view a, std::string_view b);
+inline bool EqualNames(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && HaveEqualLetters(a, b);
+}
 
 /// An order of names in which those that differ in case alone are one. The shorter come first: most
 /// names of a schema begin alike.

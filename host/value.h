@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -30,17 +31,17 @@ inline Value ToValue(const Scalar& scalar) {
 }
 
 /// Nothing for null and for arrays.
-inline std::optional<Scalar> ToScalar(const Value& value) {
+inline std::optional<Scalar> ToScalar(Value value) {
   return std::visit(
-      [](const auto& held) -> std::optional<Scalar> {
+      [](auto&& held) -> std::optional<Scalar> {
         using T = std::decay_t<decltype(held)>;
         if constexpr (std::is_same_v<T, std::monostate> || std::is_same_v<T, Array>) {
           return std::nullopt;
         } else {
-          return Scalar(held);
+          return Scalar(std::forward<decltype(held)>(held));
         }
       },
-      value);
+      std::move(value));
 }
 
 }  // namespace tqcim::host

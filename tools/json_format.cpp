@@ -4,8 +4,20 @@
 namespace tqcim::tools {
 namespace {
 
-Json ScalarJson(const host::Scalar& scalar) {
-  return std::visit([](const auto& held) { return Json(held); }, scalar);
+/// One overload for whatever a value may hold.
+Json JsonOf(std::monostate) {
+  return {};
+}
+template <typename T>
+Json JsonOf(const T& scalar) {
+  return scalar;
+}
+Json JsonOf(const host::Array& array) {
+  Json elements = Json::array();
+  for (const host::Scalar& element : array) {
+    elements.push_back(std::visit([](const auto& held) { return JsonOf(held); }, element));
+  }
+  return elements;
 }
 
 /// The names of an instance's properties differ: none is looked up among those before.
@@ -27,13 +39,7 @@ Json InstancesJson(const std::vector<host::Instance>& instances) {
 }  // namespace
 
 Json ToJson(const host::Value& value) {
-  if (const auto* array = std::get_if<host::Array>(&value)) {
-    Json elements = Json::array();
-    for (const host::Scalar& element : *array) elements.push_back(ScalarJson(element));
-    return elements;
-  }
-  const std::optional<host::Scalar> scalar = host::ToScalar(value);
-  return scalar ? ScalarJson(*scalar) : Json();
+  return std::visit([](const auto& held) { return JsonOf(held); }, value);
 }
 
 std::string DocumentText(const Json& document) {

@@ -12,7 +12,7 @@ size_t MemoryInUse() {
   PROCESS_MEMORY_COUNTERS_EX counters{};
   GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),
                        sizeof counters);
-  return counters.PrivateUsage;
+  return counters.WorkingSetSize;
 }
 
 size_t OpenHandles() {
