@@ -58,7 +58,6 @@ constexpr ScaledType kScaledTypes[] = {{"CIM_TemperatureSensor", "temperaturePro
                                        {"CIM_ParallelController", "parallelPort"},
                                        {"CIM_PointingDevice", "pointingDevice"},
                                        {"VORN_NetworkPort", "networkAdapter"},
-                                       {"VORN_ManagedSystemServicesDevice", "servicesDevice"},
                                        {"VORN_SDCardDevice", "sdCard"}};
 
 class Server {

@@ -29,7 +29,7 @@ class ObjectPath {
  private:
   static constexpr size_t kMaxLength = 255;
 
-  OLECHAR text_[kMaxLength];
+  OLECHAR text_[kMaxLength] = {};
   size_t length_ = 0;
 };
 

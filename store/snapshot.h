@@ -116,14 +116,14 @@ class Snapshot {
 
   ListBlock MakeList(std::span<const uint32_t> oids);
 
+  /// The callers' holds less `lateHolds_`.
+  ShardedCount holds_;
   const std::vector<StoredObject> objects_;
   std::unordered_map<uint32_t, const StoredObject*> byOid_;
   std::unordered_map<ListKey, ListBlock, ListKeyHash> lists_;
   ListBlock emptyList_;
 
   std::atomic<bool> inService_{true};
-  /// The callers' holds less `lateHolds_`.
-  ShardedCount holds_;
   /// What HoldRetired gave. Never falls: holds are given back to `holds_`. There only counting down
   /// is left once the snapshot is retired, so that a sum is never too small if this is read after
   /// it.
