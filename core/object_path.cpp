@@ -32,11 +32,11 @@ ObjectPath FormatObjectPath(
     const PathFormat& format,
     std::initializer_list<std::variant<const OLECHAR*, int32_t>> arguments) {
   ObjectPath path;
-  auto argument = arguments.begin();
-  for (const WideView piece : format.Pieces()) {
-    path.Append(piece);
-    if (argument == arguments.end()) break;
-    std::visit([&](auto value) { path.Append(value); }, *argument++);
+  auto piece = format.Pieces().begin();
+  path.Append(*piece);
+  for (const auto& argument : arguments) {
+    std::visit([&](auto value) { path.Append(value); }, argument);
+    path.Append(*++piece);
   }
   return path;
 }

@@ -54,7 +54,7 @@ class PathFormat {
   size_t count_ = 0;
 };
 
-/// Fills the places of a format in the order given.
+/// Fills the places of a format, of which there are as many as arguments, in the order given.
 ObjectPath FormatObjectPath(const PathFormat& format,
                             std::initializer_list<std::variant<const OLECHAR*, int32_t>> arguments);
 

@@ -21,8 +21,8 @@ void CheckClass(const host::Schema& schema, const host::ClassDefinition& definit
   fuzz::Check(superclass != nullptr, "a superclass is there");
   for (const auto& property : superclass->properties) {
     const host::PropertyDefinition* inherited = definition.Find(property->name);
-    fuzz::Check(inherited != nullptr && inherited->TypeText() == property->TypeText() &&
-                    inherited->origin == property->origin,
+    fuzz::Check(inherited != nullptr && inherited->type == property->type &&
+                    inherited->array == property->array && inherited->origin == property->origin,
                 "a property is inherited as it is");
   }
 }

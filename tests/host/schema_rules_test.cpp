@@ -67,6 +67,15 @@ TEST(SchemaRules, APropertyDeclaredAgainKeepsItsPlaceAndTakesTheNewWords) {
   EXPECT_FALSE(schema.Find("A")->properties[0]->key);
 }
 
+TEST(SchemaRules, AReferenceDeclaredAgainMayPointToAnotherClass) {
+  const Schema schema = FromText(R"(
+      class A { A ref X; };
+      class B : A { B ref X; };)");
+  EXPECT_EQ("ref A", schema.Find("A")->Find("X")->TypeText());
+  EXPECT_EQ("ref B", schema.Find("B")->Find("X")->TypeText());
+  EXPECT_EQ("A", schema.Find("B")->Find("X")->origin);
+}
+
 TEST(SchemaRules, ClassQualifiersAreInheritedAsThePlatformDoes) {
   const Schema schema = FromText(R"(
       [Abstract, Association, Description("d"), Provider("p")] class A { A ref X; };
