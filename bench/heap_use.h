@@ -15,13 +15,12 @@ struct HeapUse {
 /// What the work takes.
 HeapUse HeapUseOf(const std::function<void()>& work);
 
+/// Has each block of all modules that are loaded told to the functions below; one implementation
+/// per platform, which stands before the functions of its heap.
+void WatchHeap();
 /// Whether there is work under way whose use is asked for; while times are taken there is none.
 bool CountsHeapUse();
-/// What stands before the platform's functions tells of each block of so many bytes, one
-/// implementation per platform.
 void CountAllocation(size_t bytes);
 void CountRelease(size_t bytes);
-/// Puts it there, for all modules that are loaded.
-void WatchHeap();
 
 }  // namespace tqcim::bench

@@ -56,9 +56,8 @@ void PrintFloorRow(const std::string& name) {
 
 void PrintFloor() {
   std::printf(
-      "| class | instances | provider, us each | floor, us each | ratio | allocations each | in "
-      "the "
-      "floor |\n|---|--:|--:|--:|--:|--:|--:|\n");
+      "| class | instances | provider, us each | floor, us each | ratio | allocations each "
+      "| in the floor |\n|---|--:|--:|--:|--:|--:|--:|\n");
   for (const std::string& name : ClassNames()) PrintFloorRow(name);
 }
 

@@ -210,10 +210,13 @@ std::string_view MofLexer::JoinedTexts() {
   return joined;
 }
 
+// One pass that stops at the first of the three: to look for each of them would read a text of many
+// escapes to its end at every one.
 void MofLexer::SkipPlainText(char quote) {
-  std::string_view plain = text_.substr(position_);
-  for (const char stop : {quote, '\n', '\\'}) plain = plain.substr(0, plain.find(stop));
-  position_ += plain.size();
+  const auto stop =
+      std::find_if(text_.begin() + static_cast<std::ptrdiff_t>(position_), text_.end(),
+                   [quote](char c) { return c == quote || c == '\\' || c == '\n'; });
+  position_ = static_cast<size_t>(stop - text_.begin());
 }
 
 std::string_view MofLexer::QuotedText(char quote) {

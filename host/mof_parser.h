@@ -49,8 +49,7 @@ struct MofDocument {
 
 /// Parses one MOF text: classes with properties and qualifiers, instances with aliases, compiler
 /// directives. Methods, embedded instances and qualifier declarations are refused. An alias as a
-/// value is the text "$Name". Throws MofError. `file` and `text` outlive the
-/// document.
+/// value is the text "$Name". Throws MofError. `file` and `text` outlive the document.
 MofDocument ParseMof(const std::string& file, std::string_view text);
 
 }  // namespace tqcim::host
