@@ -12,9 +12,6 @@ namespace {
 /// The longest name that the platform takes. Errors quote words in full.
 constexpr size_t kLongestWord = 255;
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 bool IsHexDigit(char c) {
   return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }

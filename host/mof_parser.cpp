@@ -10,9 +10,9 @@
 namespace tqcim::host {
 namespace {
 
-class Parser {
+class MofParser {
  public:
-  Parser(const std::string& file, std::string_view text) : lexer_(file, text) { Skip(); }
+  MofParser(const std::string& file, std::string_view text) : lexer_(file, text) { Skip(); }
 
   MofDocument Parse() {
     while (token_.kind != MofToken::Kind::kEnd) Declaration();
@@ -230,7 +230,7 @@ class Parser {
 }  // namespace
 
 MofDocument ParseMof(const std::string& file, std::string_view text) {
-  return Parser(file, text).Parse();
+  return MofParser(file, text).Parse();
 }
 
 }  // namespace tqcim::host

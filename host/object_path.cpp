@@ -18,16 +18,12 @@ bool IsNameStart(char c) {
          static_cast<unsigned char>(c) >= 0x80;
 }
 
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
 /// Where the first name of a path ends.
 constexpr std::string_view kNameEnds = "\\/:.=\"' ";
 
-class Parser {
+class PathParser {
  public:
-  explicit Parser(std::string_view text) : text_(text) {}
+  explicit PathParser(std::string_view text) : text_(text) {}
 
   ObjectPath Parse() {
     if (text_.empty()) Refuse("it is empty");
@@ -202,7 +198,7 @@ std::string ObjectPath::Namespace() const {
 }
 
 ObjectPath ParseObjectPath(std::string_view text) {
-  return Parser(text).Parse();
+  return PathParser(text).Parse();
 }
 
 std::string RelativeText(const ObjectPath& path) {

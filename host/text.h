@@ -19,6 +19,10 @@ std::string PathText(const std::filesystem::path& path);
 WideText ToWide(std::string_view utf8);
 std::string ToUtf8(WideView wide);
 
+inline bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
 /// CIM names differ in nothing but the case of ASCII letters: the lower-case form stands for all.
 std::string LowerCase(std::string_view text);
 bool HaveEqualLetters(std::string_view a, std::string_view b);

@@ -12,7 +12,7 @@
 namespace tqcim::store {
 namespace {
 
-namespace layout = tqcim::layout::network_adapter;
+namespace fields = layout::network_adapter;
 
 /// InfiniBand has the longest addresses of all links.
 constexpr size_t kLongestMac = 20;
@@ -33,7 +33,7 @@ std::string MacText(std::span<const uint8_t> address) {
 }
 
 /// A system's texts may be anything: what is not text is left out, and the adapter stays.
-void SetKnown(ObjectDraft& draft, const tqcim::layout::Utf8Field& field, const std::string& text) {
+void SetKnown(ObjectDraft& draft, const layout::Utf8Field& field, const std::string& text) {
   const bool isText = text.find('\0') == std::string::npos && Utf16FromUtf8(text);
   if (isText && !text.empty()) draft.Set(field, text);
 }
@@ -51,26 +51,26 @@ Status StatusOf(LinkState link) {
 
 void AddNetworkAdapter(const NetworkAdapter& adapter, uint32_t position, SnapshotBuilder& builder) {
   ObjectDraft& draft =
-      builder.Add(uint32_t{layout::kType} << 16 | position, layout::kLayout, StatusOf(adapter.link),
-                  {tqcim::layout::system::kMainChassisOid}, "network adapter " + adapter.name);
+      builder.Add(uint32_t{fields::kType} << 16 | position, fields::kLayout, StatusOf(adapter.link),
+                  {layout::system::kMainChassisOid}, "network adapter " + adapter.name);
   if (adapter.pci) {
-    draft.Set(layout::kPciBus, adapter.pci->bus)
-        .Set(layout::kPciDevice, adapter.pci->device)
-        .Set(layout::kPciFunction, adapter.pci->function);
+    draft.Set(fields::kPciBus, adapter.pci->bus)
+        .Set(fields::kPciDevice, adapter.pci->device)
+        .Set(fields::kPciFunction, adapter.pci->function);
   }
-  draft.Set(layout::kAdapterStatus, static_cast<uint32_t>(adapter.link));
-  SetKnown(draft, layout::kOsDescription, adapter.description);
-  SetKnown(draft, layout::kOsVendor, adapter.vendor);
-  SetKnown(draft, layout::kOsProductName, adapter.productName);
-  SetKnown(draft, layout::kDriverVersion, adapter.driverVersion);
-  SetKnown(draft, layout::kServiceName, adapter.driver);
-  SetKnown(draft, layout::kCurrentMacAddress, MacText(adapter.currentMac));
-  SetKnown(draft, layout::kPermanentMacAddress, MacText(adapter.permanentMac));
+  draft.Set(fields::kAdapterStatus, static_cast<uint32_t>(adapter.link));
+  SetKnown(draft, fields::kOsDescription, adapter.description);
+  SetKnown(draft, fields::kOsVendor, adapter.vendor);
+  SetKnown(draft, fields::kOsProductName, adapter.productName);
+  SetKnown(draft, fields::kDriverVersion, adapter.driverVersion);
+  SetKnown(draft, fields::kServiceName, adapter.driver);
+  SetKnown(draft, fields::kCurrentMacAddress, MacText(adapter.currentMac));
+  SetKnown(draft, fields::kPermanentMacAddress, MacText(adapter.permanentMac));
   const IpConfiguration& ip = adapter.ipv4.address.empty() ? adapter.ipv6 : adapter.ipv4;
-  SetKnown(draft, layout::kIpAddress, ip.address);
-  SetKnown(draft, layout::kSubnetMask, ip.mask);
-  SetKnown(draft, layout::kDhcpServer, ip.dhcpServer);
-  SetKnown(draft, layout::kDefaultGateway, ip.gateway);
+  SetKnown(draft, fields::kIpAddress, ip.address);
+  SetKnown(draft, fields::kSubnetMask, ip.mask);
+  SetKnown(draft, fields::kDhcpServer, ip.dhcpServer);
+  SetKnown(draft, fields::kDefaultGateway, ip.gateway);
 }
 
 }  // namespace

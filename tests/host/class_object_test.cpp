@@ -4,9 +4,6 @@
 namespace tqcim::host {
 namespace {
 
-constexpr HRESULT kRefused = static_cast<HRESULT>(0x8004100C);
-constexpr HRESULT kMissing = static_cast<HRESULT>(0x80041002);
-constexpr HRESULT kBadArgument = static_cast<HRESULT>(0x80041008);
 constexpr HRESULT kNoMoreData = 0x00040005;
 
 class ClassObjectTest : public HostObjectsTest {

@@ -11,6 +11,15 @@
 
 namespace tqcim::host {
 
+/// What calls that fail return.
+inline constexpr HRESULT kMissing = static_cast<HRESULT>(0x80041002);
+inline constexpr HRESULT kMismatch = static_cast<HRESULT>(0x80041005);
+inline constexpr HRESULT kBadArgument = static_cast<HRESULT>(0x80041008);
+inline constexpr HRESULT kRefused = static_cast<HRESULT>(0x8004100C);
+inline constexpr HRESULT kBadNamespace = static_cast<HRESULT>(0x8004100E);
+inline constexpr HRESULT kBadPath = static_cast<HRESULT>(0x8004103A);
+inline constexpr HRESULT kTooSmall = static_cast<HRESULT>(0x8004103C);
+
 /// A schema from one MOF text.
 inline std::shared_ptr<const Schema> SchemaFromText(std::string_view text) {
   const Schema::Source source{"test.mof", text};

@@ -12,7 +12,7 @@ MofDocument Parse(std::string_view text) {
   return ParseMof(kFile, text);
 }
 
-std::string ErrorOf(std::string_view text) {
+std::string MofErrorOf(std::string_view text) {
   try {
     Parse(text);
   } catch (const MofError& error) {
@@ -167,14 +167,14 @@ TEST(MofParser, NamesThePlaceAndTheReasonOfAnError) {
       {"class A {};\n/* open", "x.mof:2:1: the comment is not closed"},
       {"class A { } ; %", "x.mof:1:15: a character that MOF has no use for"},
   };
-  for (const auto& [text, error] : errors) EXPECT_EQ(error, ErrorOf(text)) << text;
+  for (const auto& [text, error] : errors) EXPECT_EQ(error, MofErrorOf(text)) << text;
 }
 
 TEST(MofParser, TakesDeepNestingAndEndlessTextWithoutTrouble) {
   EXPECT_EQ("x.mof:1:22: a value should stand here, not '{'",
-            ErrorOf("instance of A { P = {" + std::string(1'000'000, '{')));
+            MofErrorOf("instance of A { P = {" + std::string(1'000'000, '{')));
   EXPECT_EQ("x.mof:1:2: the name of a qualifier should stand here, not '['",
-            ErrorOf(std::string(1'000'000, '[')));
+            MofErrorOf(std::string(1'000'000, '[')));
 }
 
 }  // namespace

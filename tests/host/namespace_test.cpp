@@ -6,12 +6,6 @@
 namespace tqcim::host {
 namespace {
 
-constexpr HRESULT kRefused = static_cast<HRESULT>(0x8004100C);
-constexpr HRESULT kMissing = static_cast<HRESULT>(0x80041002);
-constexpr HRESULT kBadArgument = static_cast<HRESULT>(0x80041008);
-constexpr HRESULT kBadPath = static_cast<HRESULT>(0x8004103A);
-constexpr HRESULT kBadNamespace = static_cast<HRESULT>(0x8004100E);
-
 class NamespaceTest : public HostObjectsTest {
  protected:
   HRESULT GetClass(const OLECHAR* path, LONG flags = 0) {

@@ -8,7 +8,7 @@ namespace tqcim::host {
 namespace {
 
 /// "POSITION: reason" for a path that is refused.
-std::string ErrorOf(std::string_view text) {
+std::string PathErrorOf(std::string_view text) {
   try {
     ParseObjectPath(text);
   } catch (const PathError& error) {
@@ -19,21 +19,21 @@ std::string ErrorOf(std::string_view text) {
 
 TEST(OddObjectPath, ANamespaceThatWouldReadAsAClassWithKeysIsRefused) {
   const std::string reason = ": a namespace can't have this character in its name";
-  EXPECT_EQ("8" + reason, ErrorOf("\\\\HOST\\a=1:C"));
-  EXPECT_EQ("2" + reason, ErrorOf("\\a.b:C"));
-  EXPECT_EQ("10" + reason, ErrorOf("//./root/a'b:C"));
-  EXPECT_EQ("10" + reason, ErrorOf("\\\\.\\root\\a\"b\\c"));
-  EXPECT_EQ("7" + reason, ErrorOf("\\root\\a b:C"));
+  EXPECT_EQ("8" + reason, PathErrorOf("\\\\HOST\\a=1:C"));
+  EXPECT_EQ("2" + reason, PathErrorOf("\\a.b:C"));
+  EXPECT_EQ("10" + reason, PathErrorOf("//./root/a'b:C"));
+  EXPECT_EQ("10" + reason, PathErrorOf("\\\\.\\root\\a\"b\\c"));
+  EXPECT_EQ("7" + reason, PathErrorOf("\\root\\a b:C"));
   EXPECT_EQ("\\\\a.b=c\\root:C", FullText(ParseObjectPath("\\\\a.b=c\\root:C"), true))
       << "a server may";
 }
 
 TEST(OddObjectPath, ANumberHasOneSign) {
   const std::string reason = "4: a number of at most 64 bits should stand here";
-  EXPECT_EQ(reason, ErrorOf("C.k=+-5"));
-  EXPECT_EQ(reason, ErrorOf("C.k=++5"));
-  EXPECT_EQ(reason, ErrorOf("C.k=-+5"));
-  EXPECT_EQ(reason, ErrorOf("C.k=+"));
+  EXPECT_EQ(reason, PathErrorOf("C.k=+-5"));
+  EXPECT_EQ(reason, PathErrorOf("C.k=++5"));
+  EXPECT_EQ(reason, PathErrorOf("C.k=-+5"));
+  EXPECT_EQ(reason, PathErrorOf("C.k=+"));
 }
 
 TEST(OddMof, AWordLongerThanAnyNameIsRefusedInAShortSentence) {

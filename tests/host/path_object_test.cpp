@@ -6,11 +6,6 @@
 namespace tqcim::host {
 namespace {
 
-constexpr HRESULT kBadArgument = static_cast<HRESULT>(0x80041008);
-constexpr HRESULT kBadPath = static_cast<HRESULT>(0x8004103A);
-constexpr HRESULT kTooSmall = static_cast<HRESULT>(0x8004103C);
-constexpr HRESULT kRefused = static_cast<HRESULT>(0x8004100C);
-
 class PathObjectTest : public HostObjectsTest {
  protected:
   HRESULT Set(const OLECHAR* text) { return path_->SetText(WBEMPATH_CREATE_ACCEPT_ALL, text); }

@@ -62,8 +62,8 @@ TEST_F(ResultSinkTest, TakesSeveralInstancesInOneCall) {
   EXPECT_EQ(S_OK, sink_->Indicate(2, objects));
   EXPECT_EQ(2u, paths_.size());
   EXPECT_EQ(S_OK, sink_->Indicate(0, nullptr));
-  EXPECT_EQ(static_cast<HRESULT>(0x80041008), sink_->Indicate(1, nullptr));
-  EXPECT_EQ(static_cast<HRESULT>(0x80041008), sink_->Indicate(-1, objects));
+  EXPECT_EQ(kBadArgument, sink_->Indicate(1, nullptr));
+  EXPECT_EQ(kBadArgument, sink_->Indicate(-1, objects));
 }
 
 TEST_F(ResultSinkTest, HasNoStatusUntilTheFinalOne) {

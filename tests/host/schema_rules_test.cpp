@@ -13,7 +13,7 @@ Schema FromText(std::string_view text) {
   return Schema::FromSources({&source, 1});
 }
 
-std::string ErrorOf(std::string_view text) {
+std::string SchemaErrorOf(std::string_view text) {
   try {
     FromText(text);
   } catch (const MofError& error) {
@@ -120,7 +120,7 @@ TEST(SchemaRules, ViolationsAreRefusedWithTheirPlace) {
       {"class A { uint8 P; };\ninstance of A { P = 256; };",
        "x.mof:2:17: the value is not of the type of P"},
   };
-  for (const auto& [text, error] : errors) EXPECT_EQ(error, ErrorOf(text)) << text;
+  for (const auto& [text, error] : errors) EXPECT_EQ(error, SchemaErrorOf(text)) << text;
 }
 
 TEST(SchemaRules, AKeyMayBeDeclaredAgain) {

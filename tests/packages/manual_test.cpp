@@ -25,7 +25,7 @@ std::string HelpOf(std::vector<std::string> command) {
 }
 
 /// What the pattern's group finds, line by line.
-std::set<std::string> FindAll(const std::string& text, const std::string& pattern) {
+std::set<std::string> FindInLines(const std::string& text, const std::string& pattern) {
   std::set<std::string> found;
   const std::regex expression(pattern);
   std::istringstream lines(text);
@@ -37,7 +37,7 @@ std::set<std::string> FindAll(const std::string& text, const std::string& patter
 }
 
 std::set<std::string> OptionsOf(const std::vector<std::string>& command) {
-  return FindAll(HelpOf(command), "^  (?:-[a-z],)?(--[a-z-]+)");
+  return FindInLines(HelpOf(command), "^  (?:-[a-z],)?(--[a-z-]+)");
 }
 
 /// The commands that a help lists below "Subcommands:".
@@ -45,7 +45,7 @@ std::set<std::string> SubcommandsOf(const std::vector<std::string>& command) {
   const std::string help = HelpOf(command);
   const size_t begin = help.find("Subcommands:\n");
   if (begin == std::string::npos) return {};
-  return FindAll(help.substr(begin, help.find("\n\n", begin) - begin), "^  ([a-z]+) ");
+  return FindInLines(help.substr(begin, help.find("\n\n", begin) - begin), "^  ([a-z]+) ");
 }
 
 /// The manual page without its marks.
@@ -76,7 +76,7 @@ TEST(ManualPage, HasEveryExitStatus) {
   const std::string manual = Manual();
   const std::string help = HelpOf({});
   const std::set<std::string> meanings =
-      FindAll(help.substr(help.find("Exit status")), "^  [0-9]  (.*)$");
+      FindInLines(help.substr(help.find("Exit status")), "^  [0-9]  (.*)$");
   EXPECT_EQ(6U, meanings.size());
   for (const std::string& meaning : meanings) {
     EXPECT_NE(std::string::npos, manual.find("\n" + meaning + "\n")) << meaning;
@@ -108,7 +108,7 @@ std::set<std::string> Completions(const std::vector<std::string>& words) {
   const auto error = folder.Path() / "error";
   EXPECT_EQ(0, RunChild("/bin/bash", {"-c", script}, output, error));
   EXPECT_EQ("", ContentsOf(error));
-  return FindAll(ContentsOf(output), "^(.+)$");
+  return FindInLines(ContentsOf(output), "^(.+)$");
 }
 
 TEST(Completion, OffersTheOptionsOfEachCommand) {

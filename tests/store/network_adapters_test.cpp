@@ -253,7 +253,7 @@ TEST_F(RunningMachine, ItsAdaptersComeBackFromAStoreFileThroughTheObjectLibrary)
   const testing::TemporaryFolder folder;
   const auto file = folder.Write("machine.json", FormatStoreFile(*MachineWith(adapters_)));
   char message[256];
-  ASSERT_EQ(TQStoreOpen(("store-file:" + TextOf(file)).c_str(), message, sizeof message), 0)
+  ASSERT_EQ(TQStoreOpen(("store-file:" + store::TextOf(file)).c_str(), message, sizeof message), 0)
       << message;
   EXPECT_EQ(ServedMacs().size(), adapters_.size());
   EXPECT_TRUE(HasSixByteMac(ServedMacs()));

@@ -20,7 +20,7 @@ bool Same(const Snapshot& a, const Snapshot& b) {
   return std::equal(a.Objects().begin(), a.Objects().end(), b.Objects().begin(), b.Objects().end());
 }
 
-SnapshotBuilder WithChassis() {
+SnapshotBuilder WithOddChassis() {
   SnapshotBuilder builder;
   builder.Add(1, layouts::system::kLayout, Status::kOk, {});
   builder.Add(2, layouts::chassis::kLayout, static_cast<Status>(9), {1});
@@ -28,7 +28,7 @@ SnapshotBuilder WithChassis() {
 }
 
 TEST(StoreFileWriting, WritesWhatIsKnownAndLeavesTheRestOut) {
-  SnapshotBuilder builder = WithChassis();
+  SnapshotBuilder builder = WithOddChassis();
   builder.Add(4, layouts::processor_device::kLayout, Status::kUnknown, {2})
       .Set(layouts::processor_device::kName, "CPU \"1\"\t\xC3\xA4");
   builder.Add(5, layouts::processor::kLayout, Status::kNonRecoverable, {4, 2})
@@ -73,7 +73,7 @@ TEST(StoreFileWriting, WritesWhatIsKnownAndLeavesTheRestOut) {
 
 TEST(StoreFileWriting, ReadingBackGivesTheSameBytes) {
   // Every field of every type, at values that have all their bytes different.
-  SnapshotBuilder builder = WithChassis();
+  SnapshotBuilder builder = WithOddChassis();
   uint32_t oid = 10;
   for (const layout::ObjectLayout& layout : layouts::kCatalogue) {
     if (layout.type == layouts::system::kType) continue;
@@ -99,7 +99,7 @@ TEST(StoreFileWriting, ReadingBackGivesTheSameBytes) {
 }
 
 TEST(StoreFileWriting, AFieldInsideAWiderOneIsToldByThatOne) {
-  SnapshotBuilder builder = WithChassis();
+  SnapshotBuilder builder = WithOddChassis();
   builder.Add(3, layouts::probe::kVoltageLayout, Status::kOk, {2})
       .Set(layouts::probe::kDiscreteState, 1);
   const auto snapshot = builder.Build();
@@ -128,7 +128,7 @@ TEST(StoreFileWriting, TheSampleServerHasAnObjectOfEveryType) {
 TEST(StoreFileWriting, TheFileIsReplacedAsAWhole) {
   const testing::TemporaryFolder folder;
   const auto path = folder.Write("store.json", "what stood here before");
-  const auto snapshot = WithChassis().Build();
+  const auto snapshot = WithOddChassis().Build();
   WriteStoreFile(*snapshot, path);
   EXPECT_EQ(testing::ContentsOf(path), FormatStoreFile(*snapshot));
   EXPECT_TRUE(Same(*snapshot, *LoadStoreFile(path)));
@@ -140,7 +140,7 @@ TEST(StoreFileWriting, AFolderThatIsMissingIsToldAndNothingIsLeft) {
   const testing::TemporaryFolder folder;
   const auto path = folder.Path() / "missing" / "store.json";
   try {
-    WriteStoreFile(*WithChassis().Build(), path);
+    WriteStoreFile(*WithOddChassis().Build(), path);
     FAIL() << "written into a folder that is not there";
   } catch (const StoreError& error) {
     EXPECT_EQ(std::string(error.what()).rfind(path.string() + ": cannot be written: ", 0), 0U)
@@ -153,7 +153,7 @@ TEST(StoreFileWriting, AFolderInTheFilesPlaceIsToldAndNothingIsLeft) {
   const testing::TemporaryFolder folder;
   const auto path = folder.Path() / "store.json";
   std::filesystem::create_directory(path);
-  EXPECT_THROW(WriteStoreFile(*WithChassis().Build(), path), StoreError);
+  EXPECT_THROW(WriteStoreFile(*WithOddChassis().Build(), path), StoreError);
   const auto count = std::distance(std::filesystem::directory_iterator(folder.Path()), {});
   EXPECT_EQ(count, 1);
   EXPECT_TRUE(std::filesystem::is_directory(path));

@@ -19,19 +19,19 @@ uint32_t OidOf(const uint8_t* dataObject) {
   return oid;
 }
 
-struct Block {
-  BlockKind kind;
-  size_t size;
-  std::unique_ptr<uint8_t[]> memory;
-  std::map<uint32_t, std::string> utf8Texts;
-  uint32_t timesLent = 0;
-};
-
 std::atomic<uint64_t> ledgers = 0;
 
 }  // namespace
 
 struct BlockLedger::Books {
+  struct Block {
+    BlockKind kind;
+    size_t size;
+    std::unique_ptr<uint8_t[]> memory;
+    std::map<uint32_t, std::string> utf8Texts;
+    uint32_t timesLent = 0;
+  };
+
   std::map<const void*, Block> blocks;
   /// By OID.
   std::map<uint32_t, std::vector<uint8_t>> lastBytes;
@@ -53,7 +53,7 @@ BlockLedger::Books& BlockLedger::BooksOfThread() const {
 
 void* BlockLedger::HandOut(BlockKind kind, FakeBlock::Image image) {
   const size_t size = image.bytes.size();
-  Block block{kind, size, std::make_unique<uint8_t[]>(size), std::move(image.utf8Texts)};
+  Books::Block block{kind, size, std::make_unique<uint8_t[]>(size), std::move(image.utf8Texts)};
   std::copy(image.bytes.begin(), image.bytes.end(), block.memory.get());
   void* const address = block.memory.get();
   BooksOfThread().blocks.emplace(address, std::move(block));
@@ -63,7 +63,7 @@ void* BlockLedger::HandOut(BlockKind kind, FakeBlock::Image image) {
 
 void* BlockLedger::Lend(BlockKind kind, std::vector<uint8_t>& bytes) {
   ++BooksOfThread()
-        .blocks.try_emplace(bytes.data(), Block{kind, bytes.size(), nullptr, {}})
+        .blocks.try_emplace(bytes.data(), Books::Block{kind, bytes.size(), nullptr, {}})
         .first->second.timesLent;
   live_.fetch_add(1, std::memory_order_relaxed);
   return bytes.data();
@@ -78,7 +78,7 @@ void BlockLedger::TakeBack(const char* freeFunction, std::initializer_list<Block
     ADD_FAILURE() << freeFunction << " of a block that is not out (freed twice?)";
     return;
   }
-  Block& taken = found->second;
+  Books::Block& taken = found->second;
   EXPECT_NE(kinds.end(), std::find(kinds.begin(), kinds.end(), taken.kind))
       << freeFunction << " does not free a " << kKindNames[static_cast<size_t>(taken.kind)];
   live_.fetch_sub(1, std::memory_order_relaxed);

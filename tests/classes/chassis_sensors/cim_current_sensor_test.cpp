@@ -3,10 +3,10 @@
 namespace tqcim::testing {
 namespace {
 
-constexpr ProbeClass kClass{"CIM_CurrentSensor", 25};
+constexpr ProbeClass kCurrentSensor{"CIM_CurrentSensor", 25};
 
-INSTANTIATE_TEST_SUITE_P(CimCurrentSensor, ProbeClassTest, ::testing::Values(kClass));
-INSTANTIATE_TEST_SUITE_P(CimCurrentSensor, ThresholdSensorTest, ::testing::Values(kClass));
+INSTANTIATE_TEST_SUITE_P(CimCurrentSensor, ProbeClassTest, ::testing::Values(kCurrentSensor));
+INSTANTIATE_TEST_SUITE_P(CimCurrentSensor, ThresholdSensorTest, ::testing::Values(kCurrentSensor));
 
 class CimCurrentSensorTest : public HandlerTest {};
 

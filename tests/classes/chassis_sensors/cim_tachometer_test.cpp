@@ -3,10 +3,10 @@
 namespace tqcim::testing {
 namespace {
 
-constexpr ProbeClass kClass{"CIM_Tachometer", 23};
+constexpr ProbeClass kTachometer{"CIM_Tachometer", 23};
 
-INSTANTIATE_TEST_SUITE_P(CimTachometer, ProbeClassTest, ::testing::Values(kClass));
-INSTANTIATE_TEST_SUITE_P(CimTachometer, ThresholdSensorTest, ::testing::Values(kClass));
+INSTANTIATE_TEST_SUITE_P(CimTachometer, ProbeClassTest, ::testing::Values(kTachometer));
+INSTANTIATE_TEST_SUITE_P(CimTachometer, ThresholdSensorTest, ::testing::Values(kTachometer));
 
 class CimTachometerTest : public HandlerTest {};
 

@@ -3,10 +3,12 @@
 namespace tqcim::testing {
 namespace {
 
-constexpr ProbeClass kClass{"CIM_TemperatureSensor", 22};
+constexpr ProbeClass kTemperatureSensor{"CIM_TemperatureSensor", 22};
 
-INSTANTIATE_TEST_SUITE_P(CimTemperatureSensor, ProbeClassTest, ::testing::Values(kClass));
-INSTANTIATE_TEST_SUITE_P(CimTemperatureSensor, ThresholdSensorTest, ::testing::Values(kClass));
+INSTANTIATE_TEST_SUITE_P(CimTemperatureSensor, ProbeClassTest,
+                         ::testing::Values(kTemperatureSensor));
+INSTANTIATE_TEST_SUITE_P(CimTemperatureSensor, ThresholdSensorTest,
+                         ::testing::Values(kTemperatureSensor));
 
 class CimTemperatureSensorTest : public HandlerTest {};
 

@@ -3,10 +3,10 @@
 namespace tqcim::testing {
 namespace {
 
-constexpr ProbeClass kClass{"CIM_VoltageSensor", 24};
+constexpr ProbeClass kVoltageSensor{"CIM_VoltageSensor", 24};
 
-INSTANTIATE_TEST_SUITE_P(CimVoltageSensor, ProbeClassTest, ::testing::Values(kClass));
-INSTANTIATE_TEST_SUITE_P(CimVoltageSensor, ThresholdSensorTest, ::testing::Values(kClass));
+INSTANTIATE_TEST_SUITE_P(CimVoltageSensor, ProbeClassTest, ::testing::Values(kVoltageSensor));
+INSTANTIATE_TEST_SUITE_P(CimVoltageSensor, ThresholdSensorTest, ::testing::Values(kVoltageSensor));
 
 class CimVoltageSensorTest : public HandlerTest {};
 

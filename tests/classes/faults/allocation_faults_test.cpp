@@ -31,7 +31,7 @@ void ExpectFailure(const Answer& answer) {
   EXPECT_EQ(std::vector<FakeSink::StatusCall>(), answer.statusCalls);
 }
 
-void Check(const Request& request, const Answer& flawless, const Answer& answer) {
+void CheckOneFailed(const Request& request, const Answer& flawless, const Answer& answer) {
   EXPECT_EQ(S_OK, flawless.result);
   EXPECT_EQ(1u, flawless.statusCalls.size());
   if (answer.failed->call != Call::kAutomation) {
@@ -62,7 +62,7 @@ void CheckWithoutMemory(const Request&, const Answer& flawless, const Answer& an
 }
 
 TEST_F(AllocationFaultsTest, EveryClassSurvivesEachFailedAllocation) {
-  TellSurvived("failed allocations", FailEachAllocationOfAll(1, Check), 1500);
+  TellSurvived("failed allocations", FailEachAllocationOfAll(1, CheckOneFailed), 1500);
 }
 
 TEST_F(AllocationFaultsTest, EveryClassSurvivesMemoryThatHasRunOut) {

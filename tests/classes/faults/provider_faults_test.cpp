@@ -25,7 +25,7 @@ void ExpectOfTheClass(const Request& request, const Answer& answer) {
             answer.statusCalls);
 }
 
-void Check(const Request& request, const Answer& flawless, const Answer& answer) {
+void CheckProviderCall(const Request& request, const Answer& flawless, const Answer& answer) {
   EXPECT_EQ(S_OK, flawless.result);
   const std::vector<FakeSink::StatusCall> nothing;
   switch (answer.failed->call) {
@@ -61,7 +61,9 @@ TEST_F(ProviderCallsTest, EachMayFail) {
           [&](uint32_t position) {
             return AskProvider(request, {FaultKind::kComCalls, position});
           },
-          [&](const Answer& flawless, const Answer& answer) { Check(request, flawless, answer); });
+          [&](const Answer& flawless, const Answer& answer) {
+            CheckProviderCall(request, flawless, answer);
+          });
     }
   }
   TellSurvived("failed COM calls of whole requests", faults, 200);

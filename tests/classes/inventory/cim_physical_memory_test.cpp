@@ -41,26 +41,26 @@ class CimPhysicalMemoryTest : public HandlerTest {
   }
 };
 
-const Puts kFirst = {{"Speed", VT_I4, 0, "2666"},
-                     {"MemoryType", VT_I4, 0, "26"},
-                     {"FormFactor", VT_I4, 0, "8"},
-                     {"Rank", VT_I4, 0, "2"},
-                     {"Capacity", VT_BSTR, CIM_UINT64, "17179869184"},
-                     {"DataWidth", VT_I4, 0, "64"},
-                     {"TotalWidth", VT_I4, 0, "72"},
-                     {"BankLabel", VT_BSTR, 0, "Bank A"},
-                     {"Name", VT_BSTR, 0, "DIMM_A1"},
-                     {"Tag", VT_BSTR, 0, "0"},
-                     {"Status", VT_BSTR, 0, "OK"},
-                     {"CreationClassName", VT_BSTR, 0, "CIM_PhysicalMemory"},
-                     {"SpeedAsString", VT_BSTR, 0, "2666 MHz"},
-                     {"Manufacturer", VT_BSTR, 0, "Example Memory"},
-                     {"SerialNumber", VT_BSTR, 0, "0A1B2C3D"}};
+const Puts kFirstModule = {{"Speed", VT_I4, 0, "2666"},
+                           {"MemoryType", VT_I4, 0, "26"},
+                           {"FormFactor", VT_I4, 0, "8"},
+                           {"Rank", VT_I4, 0, "2"},
+                           {"Capacity", VT_BSTR, CIM_UINT64, "17179869184"},
+                           {"DataWidth", VT_I4, 0, "64"},
+                           {"TotalWidth", VT_I4, 0, "72"},
+                           {"BankLabel", VT_BSTR, 0, "Bank A"},
+                           {"Name", VT_BSTR, 0, "DIMM_A1"},
+                           {"Tag", VT_BSTR, 0, "0"},
+                           {"Status", VT_BSTR, 0, "OK"},
+                           {"CreationClassName", VT_BSTR, 0, "CIM_PhysicalMemory"},
+                           {"SpeedAsString", VT_BSTR, 0, "2666 MHz"},
+                           {"Manufacturer", VT_BSTR, 0, "Example Memory"},
+                           {"SerialNumber", VT_BSTR, 0, "0A1B2C3D"}};
 
 TEST_F(CimPhysicalMemoryTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(0, Enumerate("CIM_PhysicalMemory"));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kFirst, Delivered(0));
+  EXPECT_EQ(kFirstModule, Delivered(0));
 }
 
 TEST_F(CimPhysicalMemoryTest, EnumeratesEveryDeviceByItsPosition) {
@@ -178,7 +178,7 @@ TEST_F(CimPhysicalMemoryTest, GoesOnAfterARefusalAndReturnsTheLastDelivery) {
 TEST_F(CimPhysicalMemoryTest, IsGotByItsTag) {
   EXPECT_EQ(0, GetByTag(OLESTR("0")));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kFirst, Delivered(0));
+  EXPECT_EQ(kFirstModule, Delivered(0));
 }
 
 TEST_F(CimPhysicalMemoryTest, TheTagIsWrittenAnewFromTheIndex) {
@@ -198,7 +198,7 @@ TEST_F(CimPhysicalMemoryTest, ATagThatIsNoNumberIsIndexZero) {
 TEST_F(CimPhysicalMemoryTest, TheIndexHas16Bits) {
   EXPECT_EQ(0, GetByTag(OLESTR("65536")));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kFirst, Delivered(0));
+  EXPECT_EQ(kFirstModule, Delivered(0));
 }
 
 TEST_F(CimPhysicalMemoryTest, ATagBeyondTheDevicesIsNotFound) {

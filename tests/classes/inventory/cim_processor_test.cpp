@@ -35,24 +35,24 @@ class CimProcessorTest : public HandlerTest {
   }
 };
 
-const Puts kFirst = {{"CurrentClockSpeed", VT_I4, 0, "2400"},
-                     {"MaxClockSpeed", VT_I4, 0, "4000"},
-                     {"CPUStatus", VT_I4, 0, "1"},
-                     {"Family", VT_I4, 0, "179"},
-                     {"UpgradeMethod", VT_I4, 0, "6"},
-                     {"Status", VT_BSTR, 0, "OK"},
-                     {"CoreCount", VT_I4, 0, "16"},
-                     {"CoreEnabledCount", VT_I4, 0, "12"},
-                     {"Brand", VT_BSTR, 0, "Example Brand"},
-                     {"Model", VT_BSTR, 0, "Example 6130 CPU @ 2.40GHz"},
-                     {"Stepping", VT_BSTR, 0, "4"},
-                     {"ExtendedCharacteristics", VT_I4, 0, "252"},
-                     {"ExtendedStates", VT_I4, 0, "65535"},
-                     {"CreationClassName", VT_BSTR, 0, "CIM_Processor"},
-                     {"SystemCreationClassName", VT_BSTR, 0, "CIM_ComputerSystem"},
-                     {"SystemName", VT_BSTR, 0, "RACK42-NODE0007"},
-                     {"DeviceID", VT_BSTR, 0, "0"},
-                     {"Name", VT_BSTR, 0, "CPU1"}};
+const Puts kFirstProcessor = {{"CurrentClockSpeed", VT_I4, 0, "2400"},
+                              {"MaxClockSpeed", VT_I4, 0, "4000"},
+                              {"CPUStatus", VT_I4, 0, "1"},
+                              {"Family", VT_I4, 0, "179"},
+                              {"UpgradeMethod", VT_I4, 0, "6"},
+                              {"Status", VT_BSTR, 0, "OK"},
+                              {"CoreCount", VT_I4, 0, "16"},
+                              {"CoreEnabledCount", VT_I4, 0, "12"},
+                              {"Brand", VT_BSTR, 0, "Example Brand"},
+                              {"Model", VT_BSTR, 0, "Example 6130 CPU @ 2.40GHz"},
+                              {"Stepping", VT_BSTR, 0, "4"},
+                              {"ExtendedCharacteristics", VT_I4, 0, "252"},
+                              {"ExtendedStates", VT_I4, 0, "65535"},
+                              {"CreationClassName", VT_BSTR, 0, "CIM_Processor"},
+                              {"SystemCreationClassName", VT_BSTR, 0, "CIM_ComputerSystem"},
+                              {"SystemName", VT_BSTR, 0, "RACK42-NODE0007"},
+                              {"DeviceID", VT_BSTR, 0, "0"},
+                              {"Name", VT_BSTR, 0, "CPU1"}};
 
 const Puts kEmptySecondSocket = {{"CreationClassName", VT_BSTR, 0, "CIM_Processor"},
                                  {"SystemCreationClassName", VT_BSTR, 0, "CIM_ComputerSystem"},
@@ -63,14 +63,14 @@ const Puts kEmptySecondSocket = {{"CreationClassName", VT_BSTR, 0, "CIM_Processo
 TEST_F(CimProcessorTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(0, Enumerate("CIM_Processor"));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kFirst, Delivered(0));
+  EXPECT_EQ(kFirstProcessor, Delivered(0));
 }
 
 TEST_F(CimProcessorTest, EnumeratesAnEmptySocketWithItsKeysAndName) {
   AddSecondSocket();
   EXPECT_EQ(0, Enumerate("CIM_Processor"));
   ASSERT_EQ(2u, DeliveredCount());
-  EXPECT_EQ(kFirst, Delivered(0));
+  EXPECT_EQ(kFirstProcessor, Delivered(0));
   EXPECT_EQ(kEmptySecondSocket, Delivered(1));
 }
 
@@ -216,7 +216,7 @@ TEST_F(CimProcessorTest, EndsAfter65536SocketsInsteadOfStartingOver) {
 TEST_F(CimProcessorTest, IsGotByItsDeviceId) {
   EXPECT_EQ(0, GetById(OLESTR("0")));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kFirst, Delivered(0));
+  EXPECT_EQ(kFirstProcessor, Delivered(0));
 }
 
 TEST_F(CimProcessorTest, TheDeviceIdGoesBackAsThePathGaveIt) {

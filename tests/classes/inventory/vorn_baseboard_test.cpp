@@ -11,7 +11,7 @@ struct BoardText {
   const char16_t* text;
 };
 
-constexpr BoardText kTexts[] = {
+constexpr BoardText kBoardTexts[] = {
     {28, "Manufacturer", u"Example Boards"},
     {32, "ProductName", u"XB-200"},
     {36, "Version", u"A05"},
@@ -34,7 +34,7 @@ class VornBaseboardTest : public HandlerTest {
   /// The board at OID 30, without the texts at the given offsets.
   void AddMainBoard(std::vector<uint32_t> absentOffsets = {}) {
     FakeBlock& board = store.Add(30, 259).U32(16, 10).U8(20, 0x05);
-    for (const BoardText& text : kTexts) {
+    for (const BoardText& text : kBoardTexts) {
       if (std::find(absentOffsets.begin(), absentOffsets.end(), text.offset) ==
           absentOffsets.end()) {
         board.Ucs2(text.offset, text.text);
@@ -138,7 +138,7 @@ TEST_F(VornBaseboardTest, WithoutAProductNameTheNameIsTheVersion) {
 }
 
 TEST_F(VornBaseboardTest, EachAbsentTextLeavesItsPropertyUnset) {
-  for (const BoardText& text : kTexts) {
+  for (const BoardText& text : kBoardTexts) {
     AddMainBoard({text.offset});
     Enumerate("VORN_Baseboard");
     const size_t board = DeliveredCount() - 2;

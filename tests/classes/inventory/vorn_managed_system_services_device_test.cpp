@@ -3,7 +3,7 @@
 namespace tqcim::testing {
 namespace {
 
-constexpr const char* kClass = "VORN_ManagedSystemServicesDevice";
+constexpr const char* kServicesDevice = "VORN_ManagedSystemServicesDevice";
 
 class VornManagedSystemServicesDeviceTest : public HandlerTest {
  protected:
@@ -13,34 +13,34 @@ class VornManagedSystemServicesDeviceTest : public HandlerTest {
   }
 };
 
-const Puts kDevice = {{"deviceType", VT_UI1, 0, "255"},
-                      {"storagePresent", VT_BOOL, 0, "1"},
-                      {"deviceSize", VT_I4, 0, "4096"}};
+const Puts kServicesDevicePuts = {{"deviceType", VT_UI1, 0, "255"},
+                                  {"storagePresent", VT_BOOL, 0, "1"},
+                                  {"deviceSize", VT_I4, 0, "4096"}};
 
 TEST_F(VornManagedSystemServicesDeviceTest, PutsItsPropertiesInOrder) {
-  EXPECT_EQ(0, Enumerate(kClass));
+  EXPECT_EQ(0, Enumerate(kServicesDevice));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kDevice, Delivered(0));
+  EXPECT_EQ(kServicesDevicePuts, Delivered(0));
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, IsGotByAnyKeys) {
   FakeKeyList unreadable;
   unreadable.FailCount(Hr(0x80041008));
-  EXPECT_EQ(0, Get(kClass, StringKey(OLESTR("Name"), OLESTR("other"))));
-  EXPECT_EQ(0, Get(kClass, unreadable));
-  EXPECT_EQ(0, GetWithoutKeys(kClass));
+  EXPECT_EQ(0, Get(kServicesDevice, StringKey(OLESTR("Name"), OLESTR("other"))));
+  EXPECT_EQ(0, Get(kServicesDevice, unreadable));
+  EXPECT_EQ(0, GetWithoutKeys(kServicesDevice));
   ASSERT_EQ(3u, DeliveredCount());
-  for (size_t i = 0; i < 3; ++i) EXPECT_EQ(kDevice, Delivered(i));
+  for (size_t i = 0; i < 3; ++i) EXPECT_EQ(kServicesDevicePuts, Delivered(i));
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, PublishesTheFirstObjectOnly) {
   store.Add(111, 50).U32(20, 1);
   store.List(2, 50, {110, 111});
-  EXPECT_EQ(0, Enumerate(kClass));
-  EXPECT_EQ(0, GetWithoutKeys(kClass));
+  EXPECT_EQ(0, Enumerate(kServicesDevice));
+  EXPECT_EQ(0, GetWithoutKeys(kServicesDevice));
   ASSERT_EQ(2u, DeliveredCount());
-  EXPECT_EQ(kDevice, Delivered(0));
-  EXPECT_EQ(kDevice, Delivered(1));
+  EXPECT_EQ(kServicesDevicePuts, Delivered(0));
+  EXPECT_EQ(kServicesDevicePuts, Delivered(1));
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, StoragePresentIsTheStoresByteCopiedUnchanged) {
@@ -48,61 +48,61 @@ TEST_F(VornManagedSystemServicesDeviceTest, StoragePresentIsTheStoresByteCopiedU
       {0, "0"}, {1, "1"}, {2, "2"}, {255, "255"}};
   for (const auto& [raw, value] : kValues) {
     store.Object(110).U8(17, raw);
-    Enumerate(kClass);
+    Enumerate(kServicesDevice);
     EXPECT_EQ(value, Value(DeliveredCount() - 1, "storagePresent"));
   }
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, TheSizeKeepsItsBits) {
   store.Object(110).U32(20, 4294967295);
-  Enumerate(kClass);
+  Enumerate(kServicesDevice);
   EXPECT_EQ("-1", Value(0, "deviceSize"));
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, NoObjectIsSuccessToEnumerateAndNotFoundToGet) {
   store.List(2, 50, {});
-  EXPECT_EQ(0, Enumerate(kClass));
-  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kClass));
+  EXPECT_EQ(0, Enumerate(kServicesDevice));
+  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kServicesDevice));
   store.FailListing(2, 50);
-  EXPECT_EQ(0, Enumerate(kClass));
-  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kClass));
+  EXPECT_EQ(0, Enumerate(kServicesDevice));
+  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kServicesDevice));
   EXPECT_EQ(0u, definition.Spawns());
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, AnUnreadableObjectIsNone) {
   store.FailRead(110);
-  EXPECT_EQ(0, Enumerate(kClass));
-  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kClass));
+  EXPECT_EQ(0, Enumerate(kServicesDevice));
+  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kServicesDevice));
   EXPECT_EQ(0u, definition.Spawns());
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, OnlyGettingReturnsTheFailureOfTheSpawn) {
   definition.SpawnNothing(0, Hr(0x80041006));
   definition.SpawnNothing(1, Hr(0x80041006));
-  EXPECT_EQ(0, Enumerate(kClass));
-  EXPECT_EQ(Hr(0x80041006), GetWithoutKeys(kClass));
+  EXPECT_EQ(0, Enumerate(kServicesDevice));
+  EXPECT_EQ(Hr(0x80041006), GetWithoutKeys(kServicesDevice));
   EXPECT_EQ(0u, DeliveredCount());
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, DeliversNothingWhereASuccessfulSpawnGaveNoInstance) {
   definition.SpawnNothing(0, S_OK);
   definition.SpawnNothing(1, S_OK);
-  EXPECT_EQ(0, Enumerate(kClass));
-  EXPECT_EQ(0, GetWithoutKeys(kClass));
+  EXPECT_EQ(0, Enumerate(kServicesDevice));
+  EXPECT_EQ(0, GetWithoutKeys(kServicesDevice));
   EXPECT_EQ(0u, DeliveredCount());
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, IgnoresTheSinksRefusal) {
   sink.SetIndicateResult(Hr(0x80041032));
-  EXPECT_EQ(0, Enumerate(kClass));
-  EXPECT_EQ(0, GetWithoutKeys(kClass));
+  EXPECT_EQ(0, Enumerate(kServicesDevice));
+  EXPECT_EQ(0, GetWithoutKeys(kServicesDevice));
   EXPECT_EQ(2u, DeliveredCount());
 }
 
 TEST_F(VornManagedSystemServicesDeviceTest, ReturnsTheReferencesThatAreLeftAfterItsRelease) {
   sink.KeepInstances();
-  EXPECT_EQ(1, Enumerate(kClass));
-  EXPECT_EQ(1, GetWithoutKeys(kClass));
+  EXPECT_EQ(1, Enumerate(kServicesDevice));
+  EXPECT_EQ(1, GetWithoutKeys(kServicesDevice));
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ struct AdapterText {
   std::vector<std::string> properties;
 };
 
-const AdapterText kTexts[] = {
+const AdapterText kAdapterTexts[] = {
     {172, "Example 10G Adapter", {"OSAdapterDescription"}},
     {176, "Example Networks", {"OSAdapterVendor"}},
     {180, "EN-10G", {"OSAdapterProductName"}},
@@ -54,7 +54,7 @@ class VornNetworkPortTest : public HandlerTest {
                              .U16(160, 3)
                              .U16(162, 1)
                              .I16(164, 1);
-    for (const AdapterText& text : kTexts) {
+    for (const AdapterText& text : kAdapterTexts) {
       if (text.offset != absentOffset) adapter.Utf8(text.offset, text.text);
     }
   }
@@ -134,7 +134,7 @@ TEST_F(VornNetworkPortTest, CreationClassNameIsTheMixedCaseVornNetworkPort) {
 }
 
 TEST_F(VornNetworkPortTest, EachAbsentTextLeavesItsOwnPropertiesUnset) {
-  for (const AdapterText& text : kTexts) {
+  for (const AdapterText& text : kAdapterTexts) {
     AddAdapter(text.offset);
     const size_t adapter = DeliveredCount();
     EXPECT_EQ(0, Enumerate("VORN_NetworkPort"));

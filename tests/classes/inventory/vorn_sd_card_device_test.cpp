@@ -3,7 +3,7 @@
 namespace tqcim::testing {
 namespace {
 
-constexpr const char* kClass = "VORN_SDCardDevice";
+constexpr const char* kSdCard = "VORN_SDCardDevice";
 
 class VornSdCardDeviceTest : public HandlerTest {
  protected:
@@ -25,7 +25,7 @@ class VornSdCardDeviceTest : public HandlerTest {
   /// Gets by the text of a key; gives the names of the cards delivered by that.
   std::vector<std::string> NamesGotBy(const OLECHAR* text) {
     const size_t before = DeliveredCount();
-    EXPECT_EQ(0, Get(kClass, StringKey(OLESTR("DeviceID"), text)));
+    EXPECT_EQ(0, Get(kSdCard, StringKey(OLESTR("DeviceID"), text)));
     std::vector<std::string> names;
     for (size_t i = before; i < DeliveredCount(); ++i) names.push_back(Value(i, "Name"));
     return names;
@@ -58,7 +58,7 @@ const Puts kCardWithoutName = {{"sdType", VT_UI1, 0, "0"},
                                {"DeviceID", VT_BSTR, 0, "2"}};
 
 TEST_F(VornSdCardDeviceTest, EnumeratesEveryCardInStoreOrder) {
-  EXPECT_EQ(0, Enumerate(kClass));
+  EXPECT_EQ(0, Enumerate(kSdCard));
   ASSERT_EQ(3u, DeliveredCount());
   EXPECT_EQ(kCardA, Delivered(0));
   EXPECT_EQ(kCardB, Delivered(1));
@@ -72,7 +72,7 @@ TEST_F(VornSdCardDeviceTest, CertificationIsTranslated) {
   for (const auto& [code, value] : kRows) {
     store.Object(133).U8(17, code);
     const size_t card = DeliveredCount();
-    Enumerate(kClass);
+    Enumerate(kSdCard);
     EXPECT_EQ(value, Value(card, "sdCertified")) << int{code};
   }
 }
@@ -83,7 +83,7 @@ TEST_F(VornSdCardDeviceTest, PresenceIsTheStores16BitValueCopiedUnchanged) {
   for (const auto& [raw, value] : kRows) {
     store.Object(133).U16(18, raw);
     const size_t card = DeliveredCount();
-    Enumerate(kClass);
+    Enumerate(kSdCard);
     EXPECT_EQ(value, Value(card, "isSDCardPresent")) << raw;
   }
 }
@@ -98,14 +98,14 @@ TEST_F(VornSdCardDeviceTest, AnUnknownFreeSizeIsLeftOut) {
   for (const auto& [freeSize, value] : kRows) {
     store.Object(133).U32(24, freeSize);
     const size_t card = DeliveredCount();
-    Enumerate(kClass);
+    Enumerate(kSdCard);
     EXPECT_EQ(value, Value(card, "sdCardFreeSizeMB")) << freeSize;
   }
 }
 
 TEST_F(VornSdCardDeviceTest, EnumerationListsOnce) {
   store.RecordCalls();
-  Enumerate(kClass);
+  Enumerate(kSdCard);
   EXPECT_EQ((std::vector<std::string>{"children 2/52", "object 133", "free", "object 131", "free",
                                       "object 132", "free", "free"}),
             store.Calls());
@@ -113,10 +113,10 @@ TEST_F(VornSdCardDeviceTest, EnumerationListsOnce) {
 
 TEST_F(VornSdCardDeviceTest, NoCardsAreSuccess) {
   store.List(2, 52, {});
-  EXPECT_EQ(0, Enumerate(kClass));
+  EXPECT_EQ(0, Enumerate(kSdCard));
   EXPECT_TRUE(NamesGotBy(OLESTR("0")).empty());
   store.FailListing(2, 52);
-  EXPECT_EQ(0, Enumerate(kClass));
+  EXPECT_EQ(0, Enumerate(kSdCard));
   EXPECT_TRUE(NamesGotBy(OLESTR("0")).empty());
   EXPECT_EQ(0u, definition.Spawns());
 }
@@ -124,16 +124,16 @@ TEST_F(VornSdCardDeviceTest, NoCardsAreSuccess) {
 TEST_F(VornSdCardDeviceTest, EnumerationEndsAtTheFirstCardThatCannotBeRead) {
   store.FailRead(131);
   sink.SetIndicateResult(Hr(0x80041032));
-  EXPECT_EQ(Hr(0x80041032), Enumerate(kClass));
+  EXPECT_EQ(Hr(0x80041032), Enumerate(kSdCard));
   EXPECT_EQ(1u, DeliveredCount());
   store.FailRead(133);
-  EXPECT_EQ(0, Enumerate(kClass));
+  EXPECT_EQ(0, Enumerate(kSdCard));
   EXPECT_EQ(1u, DeliveredCount());
 }
 
 TEST_F(VornSdCardDeviceTest, EnumerationStopsAtAFailedSpawnAndReturnsIt) {
   definition.SpawnNothing(1, Hr(0x80041006));
-  EXPECT_EQ(Hr(0x80041006), Enumerate(kClass));
+  EXPECT_EQ(Hr(0x80041006), Enumerate(kSdCard));
   EXPECT_EQ(1u, DeliveredCount());
   EXPECT_EQ(2u, definition.Spawns());
 }
@@ -141,7 +141,7 @@ TEST_F(VornSdCardDeviceTest, EnumerationStopsAtAFailedSpawnAndReturnsIt) {
 TEST_F(VornSdCardDeviceTest, EnumerationStopsWhereASuccessfulSpawnGaveNoInstance) {
   sink.SetIndicateResult(Hr(0x80041032));
   definition.SpawnNothing(1, S_OK);
-  EXPECT_EQ(0, Enumerate(kClass));
+  EXPECT_EQ(0, Enumerate(kSdCard));
   EXPECT_EQ(1u, DeliveredCount());
   EXPECT_EQ(2u, definition.Spawns());
 }
@@ -149,16 +149,16 @@ TEST_F(VornSdCardDeviceTest, EnumerationStopsWhereASuccessfulSpawnGaveNoInstance
 TEST_F(VornSdCardDeviceTest, EnumerationGoesOnAfterARefusalAndReturnsTheLastDelivery) {
   sink.KeepInstances();
   sink.Refuse(0, Hr(0x80041032));
-  EXPECT_EQ(0, Enumerate(kClass));
+  EXPECT_EQ(0, Enumerate(kSdCard));
   EXPECT_EQ(3u, DeliveredCount());
   sink.Refuse(5, Hr(0x80041032));
-  EXPECT_EQ(Hr(0x80041032), Enumerate(kClass));
+  EXPECT_EQ(Hr(0x80041032), Enumerate(kSdCard));
 }
 
 TEST_F(VornSdCardDeviceTest, IsGotByItsPosition) {
-  EXPECT_EQ(0, Get(kClass, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
-  EXPECT_EQ(0, Get(kClass, StringKey(OLESTR("DeviceID"), OLESTR("1"))));
-  EXPECT_EQ(0, Get(kClass, StringKey(OLESTR("DeviceID"), OLESTR("2"))));
+  EXPECT_EQ(0, Get(kSdCard, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
+  EXPECT_EQ(0, Get(kSdCard, StringKey(OLESTR("DeviceID"), OLESTR("1"))));
+  EXPECT_EQ(0, Get(kSdCard, StringKey(OLESTR("DeviceID"), OLESTR("2"))));
   ASSERT_EQ(3u, DeliveredCount());
   EXPECT_EQ(kCardA, Delivered(0));
   EXPECT_EQ(kCardB, Delivered(1));
@@ -186,7 +186,7 @@ TEST_F(VornSdCardDeviceTest, TheFirstKeyCountsWhateverItsName) {
   FakeKeyList keys;
   keys.Add(StringKey(OLESTR("SystemName"), OLESTR("1")))
       .Add(StringKey(OLESTR("DeviceID"), OLESTR("0")));
-  EXPECT_EQ(0, Get(kClass, keys));
+  EXPECT_EQ(0, Get(kSdCard, keys));
   ASSERT_EQ(1u, DeliveredCount());
   EXPECT_EQ(kCardB, Delivered(0));
   EXPECT_EQ((std::vector<ULONG>{0}), keys.Reads());
@@ -196,15 +196,15 @@ TEST_F(VornSdCardDeviceTest, ALaterKeyIsNotTried) {
   FakeKeyList keys;
   keys.Add(StringKey(OLESTR("SystemName"), OLESTR("RACK42-NODE0007")))
       .Add(StringKey(OLESTR("DeviceID"), OLESTR("0")));
-  EXPECT_EQ(0, Get(kClass, keys));
+  EXPECT_EQ(0, Get(kSdCard, keys));
   EXPECT_EQ(0u, DeliveredCount());
 }
 
 TEST_F(VornSdCardDeviceTest, AKeyWithoutTextFindsNothing) {
-  EXPECT_EQ(0, Get(kClass, NumberKey(OLESTR("DeviceID"), 0)));
+  EXPECT_EQ(0, Get(kSdCard, NumberKey(OLESTR("DeviceID"), 0)));
   EXPECT_TRUE(NamesGotBy(nullptr).empty());
   FakeKeyList noKeys;
-  EXPECT_EQ(0, Get(kClass, noKeys));
+  EXPECT_EQ(0, Get(kSdCard, noKeys));
   EXPECT_EQ(0u, definition.Spawns());
 }
 
@@ -212,11 +212,11 @@ TEST_F(VornSdCardDeviceTest, GettingReturnsTheFailureOfReadingTheKeys) {
   store.RecordCalls();
   FakeKeyList uncounted;
   uncounted.FailCount(Hr(0x80041008));
-  EXPECT_EQ(Hr(0x80041008), Get(kClass, uncounted));
+  EXPECT_EQ(Hr(0x80041008), Get(kSdCard, uncounted));
   FakeKeyList unread;
   unread.Add(StringKey(OLESTR("DeviceID"), OLESTR("0"))).FailKey(0, Hr(0x80041003));
-  EXPECT_EQ(Hr(0x80041003), Get(kClass, unread));
-  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kClass));
+  EXPECT_EQ(Hr(0x80041003), Get(kSdCard, unread));
+  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kSdCard));
   EXPECT_TRUE(store.Calls().empty());
 }
 
@@ -236,19 +236,19 @@ TEST_F(VornSdCardDeviceTest, AMatchThatCannotBeReadSpawnsAnInstanceThatIsNotDeli
 TEST_F(VornSdCardDeviceTest, GettingReturnsTheStatusOfASpawnWithoutInstance) {
   definition.SpawnNothing(0, Hr(0x80041006));
   definition.SpawnNothing(1, S_OK);
-  EXPECT_EQ(Hr(0x80041006), Get(kClass, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
-  EXPECT_EQ(0, Get(kClass, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
+  EXPECT_EQ(Hr(0x80041006), Get(kSdCard, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
+  EXPECT_EQ(0, Get(kSdCard, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
   store.FailRead(131);
   definition.SpawnNothing(2, Hr(0x80041006));
-  EXPECT_EQ(Hr(0x80041006), Get(kClass, StringKey(OLESTR("DeviceID"), OLESTR("1"))));
+  EXPECT_EQ(Hr(0x80041006), Get(kSdCard, StringKey(OLESTR("DeviceID"), OLESTR("1"))));
   EXPECT_EQ(0u, DeliveredCount());
 }
 
 TEST_F(VornSdCardDeviceTest, GettingReturnsTheStatusOfTheDelivery) {
   sink.KeepInstances();
-  EXPECT_EQ(0, Get(kClass, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
+  EXPECT_EQ(0, Get(kSdCard, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
   sink.SetIndicateResult(Hr(0x80041032));
-  EXPECT_EQ(Hr(0x80041032), Get(kClass, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
+  EXPECT_EQ(Hr(0x80041032), Get(kSdCard, StringKey(OLESTR("DeviceID"), OLESTR("0"))));
 }
 
 }  // namespace

@@ -20,10 +20,6 @@ class CimPackagePowerSupplyTest : public PowerTest {
   }
 };
 
-constexpr char kShelfA[] =
-    R"(\\.\root\cimv2\vorn:VORN_Chassis.CreationClassName="VORN_Chassis",Tag="Shelf A")";
-constexpr char kShelfB[] =
-    R"(\\.\root\cimv2\vorn:VORN_Chassis.CreationClassName="VORN_Chassis",Tag="Shelf B")";
 constexpr char kSupply0[] =
     R"(\\.\root\cimv2\vorn:CIM_PowerSupply.CreationClassName="CIM_PowerSupply",)"
     R"(SystemName="RACK42-NODE0007",DeviceID="0",SystemCreationClassName="CIM_ComputerSystem")";

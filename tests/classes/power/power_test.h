@@ -9,6 +9,23 @@
 
 namespace tqcim::testing {
 
+/// Paths of what stands in the stores of several tests.
+inline constexpr char kShelfA[] =
+    R"(\\.\root\cimv2\vorn:VORN_Chassis.CreationClassName="VORN_Chassis",Tag="Shelf A")";
+inline constexpr char kShelfB[] =
+    R"(\\.\root\cimv2\vorn:VORN_Chassis.CreationClassName="VORN_Chassis",Tag="Shelf B")";
+inline constexpr char kSystem[] =
+    R"(\\.\root\cimv2\vorn:VORN_SYSTEM.CreationClassName="CVORN_System",)"
+    R"(SystemName="RACK42-NODE0007",SystemCreationClassName="CIM_ComputerSystem")";
+inline constexpr char kMain0[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
+                                 R"(CreationClassName="VORN_PSRedundancyGroup",Name="Main0")";
+inline constexpr char kMain1[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
+                                 R"(CreationClassName="VORN_PSRedundancyGroup",Name="Main1")";
+inline constexpr char kSpare0[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
+                                  R"(CreationClassName="VORN_PSRedundancyGroup",Name="Spare0")";
+inline constexpr char kSpare1[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
+                                  R"(CreationClassName="VORN_PSRedundancyGroup",Name="Spare1")";
+
 /// The puts of an association.
 inline Puts Ends(const std::string& dependent, const std::string& antecedent) {
   return {{"Dependent", VT_BSTR, 0, dependent}, {"Antecedent", VT_BSTR, 0, antecedent}};

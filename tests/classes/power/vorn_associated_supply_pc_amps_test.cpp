@@ -19,17 +19,17 @@ class VornAssociatedSupplyPcAmpsTest : public PowerTest {
   HRESULT Associate() { return Enumerate("VORN_AssociatedSupplyPCAmps"); }
 };
 
-constexpr char kSupply1[] =
+constexpr char kMeteredSupply1[] =
     R"(\\.\root\cimv2\vorn:CIM_PowerSupply.CreationClassName="CCIM_PowerSupply",)"
     R"(SystemName="RACK42-NODE0007",DeviceID="PS 1",SystemCreationClassName="CIM_ComputerSystem")";
-constexpr char kSupply2[] =
+constexpr char kMeteredSupply2[] =
     R"(\\.\root\cimv2\vorn:CIM_PowerSupply.CreationClassName="CCIM_PowerSupply",)"
     R"(SystemName="RACK42-NODE0007",DeviceID="PS 2",SystemCreationClassName="CIM_ComputerSystem")";
-constexpr char kSensor1[] =
+constexpr char kMeteringSensor1[] =
     R"(\\.\root\cimv2\vorn:VORN_PowerConsumptionAmpsSensor.)"
     R"(CreationClassName="CVORN_PowerConsumptionAmpsSensor",)"
     R"(SystemName="RACK42-NODE0007",Name="PS 1",SystemCreationClassName="CIM_ComputerSystem")";
-constexpr char kSensor2[] =
+constexpr char kMeteringSensor2[] =
     R"(\\.\root\cimv2\vorn:VORN_PowerConsumptionAmpsSensor.)"
     R"(CreationClassName="CVORN_PowerConsumptionAmpsSensor",)"
     R"(SystemName="RACK42-NODE0007",Name="PS 2",SystemCreationClassName="CIM_ComputerSystem")";
@@ -37,7 +37,7 @@ constexpr char kSensor2[] =
 TEST_F(VornAssociatedSupplyPcAmpsTest, PairsASupplyWithItsProbeUnderClassNamesWithALetterTooMany) {
   EXPECT_EQ(0, Associate());
   ASSERT_LE(1u, DeliveredCount());
-  EXPECT_EQ(Ends(kSupply1, kSensor1), Delivered(0));
+  EXPECT_EQ(Ends(kMeteredSupply1, kMeteringSensor1), Delivered(0));
 }
 
 TEST_F(VornAssociatedSupplyPcAmpsTest, TheSharedChassisIndexEndsTheAssociationAfterTheFirstSupply) {
@@ -81,8 +81,8 @@ TEST_F(VornAssociatedSupplyPcAmpsTest, TheProbesOfLaterChassisArePairedWithTheFi
   store.List(101, 25, {310});
   EXPECT_EQ(0, Associate());
   ASSERT_EQ(2u, DeliveredCount());
-  EXPECT_EQ(Ends(kSupply1, kSensor1), Delivered(0));
-  EXPECT_EQ(Ends(kSupply1, kSensor1), Delivered(1));
+  EXPECT_EQ(Ends(kMeteredSupply1, kMeteringSensor1), Delivered(0));
+  EXPECT_EQ(Ends(kMeteredSupply1, kMeteringSensor1), Delivered(1));
 }
 
 TEST_F(VornAssociatedSupplyPcAmpsTest, TheProbesOfChassisBeforeTheFirstSupplyAreNotSeen) {
@@ -148,8 +148,8 @@ TEST_F(VornAssociatedSupplyPcAmpsTest, AProbeThatFailsToBeReadOnceGoesToTheNextS
   store.FailRead(301, 1);
   EXPECT_EQ(0, Associate());
   ASSERT_EQ(2u, DeliveredCount());
-  EXPECT_EQ(Ends(kSupply1, kSensor1), Delivered(0));
-  EXPECT_EQ(Ends(kSupply2, kSensor2), Delivered(1));
+  EXPECT_EQ(Ends(kMeteredSupply1, kMeteringSensor1), Delivered(0));
+  EXPECT_EQ(Ends(kMeteredSupply2, kMeteringSensor2), Delivered(1));
 }
 
 TEST_F(VornAssociatedSupplyPcAmpsTest, TheNextSupplyGoesOnWhereTheProbesOfTheFirstEnded) {

@@ -14,10 +14,6 @@ class VornAssociatedSystemPcDataTest : public PowerTest {
   HRESULT Associate() { return Enumerate("VORN_AssociatedSystemPCData"); }
 };
 
-constexpr char kSystem[] =
-    R"(\\.\root\cimv2\vorn:VORN_SYSTEM.CreationClassName="CVORN_System",)"
-    R"(SystemName="RACK42-NODE0007",SystemCreationClassName="CIM_ComputerSystem")";
-
 TEST_F(VornAssociatedSystemPcDataTest, TheAntecedentIsTheBareNameOfTheRecordAndNoReference) {
   EXPECT_EQ(0, Associate());
   ASSERT_EQ(2u, DeliveredCount());

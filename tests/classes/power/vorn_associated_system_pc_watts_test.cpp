@@ -19,9 +19,6 @@ class VornAssociatedSystemPcWattsTest : public PowerTest {
   HRESULT Associate() { return Enumerate("VORN_AssociatedSystemPCWatts"); }
 };
 
-constexpr char kSystem[] =
-    R"(\\.\root\cimv2\vorn:VORN_SYSTEM.CreationClassName="CVORN_System",)"
-    R"(SystemName="RACK42-NODE0007",SystemCreationClassName="CIM_ComputerSystem")";
 constexpr char kSystemSensor[] =
     R"(\\.\root\cimv2\vorn:VORN_PowerConsumptionWattsSensor.)"
     R"(CreationClassName="CVORN_PowerConsumptionWattsSensor",)"

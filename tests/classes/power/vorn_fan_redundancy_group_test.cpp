@@ -13,21 +13,21 @@ class VornFanRedundancyGroupTest : public PowerTest {
   }
 };
 
-const Puts kGroup = {{"MinNumberNeeded", VT_I4, 0, "2"},
-                     {"RedundancyStatus", VT_I4, 0, "2"},
-                     {"Name", VT_BSTR, 0, "Main"},
-                     {"CreationClassName", VT_BSTR, 0, "VORN_FanRedundancyGroup"}};
+const Puts kFanGroup = {{"MinNumberNeeded", VT_I4, 0, "2"},
+                        {"RedundancyStatus", VT_I4, 0, "2"},
+                        {"Name", VT_BSTR, 0, "Main"},
+                        {"CreationClassName", VT_BSTR, 0, "VORN_FanRedundancyGroup"}};
 
 TEST_F(VornFanRedundancyGroupTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(0, Enumerate("VORN_FanRedundancyGroup"));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kGroup, Delivered(0));
+  EXPECT_EQ(kFanGroup, Delivered(0));
 }
 
 TEST_F(VornFanRedundancyGroupTest, IsGotWithTheSameProperties) {
   EXPECT_EQ(0, Get("VORN_FanRedundancyGroup", StringKey(OLESTR("Name"), OLESTR("Main"))));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kGroup, Delivered(0));
+  EXPECT_EQ(kFanGroup, Delivered(0));
 }
 
 TEST_F(VornFanRedundancyGroupTest, IsNoGroupOfPowerSupplies) {

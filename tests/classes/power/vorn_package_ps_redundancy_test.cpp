@@ -22,19 +22,6 @@ class VornPackagePsRedundancyTest : public PowerTest {
   HRESULT Associate() { return Enumerate("VORN_PackagePSRedundancy"); }
 };
 
-constexpr char kShelfA[] =
-    R"(\\.\root\cimv2\vorn:VORN_Chassis.CreationClassName="VORN_Chassis",Tag="Shelf A")";
-constexpr char kShelfB[] =
-    R"(\\.\root\cimv2\vorn:VORN_Chassis.CreationClassName="VORN_Chassis",Tag="Shelf B")";
-constexpr char kMain0[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
-                          R"(CreationClassName="VORN_PSRedundancyGroup",Name="Main0")";
-constexpr char kSpare0[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
-                           R"(CreationClassName="VORN_PSRedundancyGroup",Name="Spare0")";
-constexpr char kMain1[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
-                          R"(CreationClassName="VORN_PSRedundancyGroup",Name="Main1")";
-constexpr char kSpare1[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
-                           R"(CreationClassName="VORN_PSRedundancyGroup",Name="Spare1")";
-
 TEST_F(VornPackagePsRedundancyTest, PlacesEveryGroupOfPowerSuppliesInEveryChassis) {
   EXPECT_EQ(0, Associate());
   ASSERT_EQ(4u, DeliveredCount());

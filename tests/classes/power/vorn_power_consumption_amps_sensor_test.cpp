@@ -20,31 +20,31 @@ class VornPowerConsumptionAmpsSensorTest : public PowerTest {
   }
 };
 
-const Puts kSensor = {{"SettableThresholds", VT_ARRAY | VT_I2, 0, "{1,0}"},
-                      {"LowerThresholdCritical", VT_I4, 0, "20"},
-                      {"LowerThresholdFatal", VT_I4, 0, "10"},
-                      {"LowerThresholdNonCritical", VT_I4, 0, "-100"},
-                      {"CurrentReading", VT_I4, 0, "14"},
-                      {"Name", VT_BSTR, 0, "PS1 Current"},
-                      {"Status", VT_BSTR, 0, "OK"},
-                      {"UpperThresholdCritical", VT_I4, 0, "550"},
-                      {"UpperThresholdFatal", VT_I4, 0, "600"},
-                      {"UpperThresholdNonCritical", VT_I4, 0, "500"},
-                      {"CreationClassName", VT_BSTR, 0, "VORN_PowerConsumptionAmpsSensor"},
-                      {"SystemCreationClassName", VT_BSTR, 0, "CIM_ComputerSystem"},
-                      {"SystemName", VT_BSTR, 0, "RACK42-NODE0007"},
-                      {"DeviceID", VT_BSTR, 0, "0"}};
+const Puts kAmpsSensor = {{"SettableThresholds", VT_ARRAY | VT_I2, 0, "{1,0}"},
+                          {"LowerThresholdCritical", VT_I4, 0, "20"},
+                          {"LowerThresholdFatal", VT_I4, 0, "10"},
+                          {"LowerThresholdNonCritical", VT_I4, 0, "-100"},
+                          {"CurrentReading", VT_I4, 0, "14"},
+                          {"Name", VT_BSTR, 0, "PS1 Current"},
+                          {"Status", VT_BSTR, 0, "OK"},
+                          {"UpperThresholdCritical", VT_I4, 0, "550"},
+                          {"UpperThresholdFatal", VT_I4, 0, "600"},
+                          {"UpperThresholdNonCritical", VT_I4, 0, "500"},
+                          {"CreationClassName", VT_BSTR, 0, "VORN_PowerConsumptionAmpsSensor"},
+                          {"SystemCreationClassName", VT_BSTR, 0, "CIM_ComputerSystem"},
+                          {"SystemName", VT_BSTR, 0, "RACK42-NODE0007"},
+                          {"DeviceID", VT_BSTR, 0, "0"}};
 
 TEST_F(VornPowerConsumptionAmpsSensorTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(0, Enumerate("VORN_PowerConsumptionAmpsSensor"));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kSensor, Delivered(0));
+  EXPECT_EQ(kAmpsSensor, Delivered(0));
 }
 
 TEST_F(VornPowerConsumptionAmpsSensorTest, IsGotWithTheSameProperties) {
   EXPECT_EQ(0, Get("VORN_PowerConsumptionAmpsSensor", StringKey(OLESTR("DeviceID"), OLESTR("0"))));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kSensor, Delivered(0));
+  EXPECT_EQ(kAmpsSensor, Delivered(0));
 }
 
 TEST_F(VornPowerConsumptionAmpsSensorTest, TakesSubtypes23And25Only) {

@@ -20,31 +20,31 @@ class VornPowerConsumptionWattsSensorTest : public PowerTest {
   }
 };
 
-const Puts kSensor = {{"SettableThresholds", VT_ARRAY | VT_I2, 0, "{1,0}"},
-                      {"LowerThresholdCritical", VT_I4, 0, "20"},
-                      {"LowerThresholdFatal", VT_I4, 0, "10"},
-                      {"LowerThresholdNonCritical", VT_I4, 0, "-100"},
-                      {"CurrentReading", VT_I4, 0, "220"},
-                      {"Name", VT_BSTR, 0, "System Level"},
-                      {"Status", VT_BSTR, 0, "OK"},
-                      {"UpperThresholdCritical", VT_I4, 0, "550"},
-                      {"UpperThresholdFatal", VT_I4, 0, "600"},
-                      {"UpperThresholdNonCritical", VT_I4, 0, "500"},
-                      {"CreationClassName", VT_BSTR, 0, "VORN_PowerConsumptionWattsSensor"},
-                      {"SystemCreationClassName", VT_BSTR, 0, "CIM_ComputerSystem"},
-                      {"SystemName", VT_BSTR, 0, "RACK42-NODE0007"},
-                      {"DeviceID", VT_BSTR, 0, "0"}};
+const Puts kWattsSensor = {{"SettableThresholds", VT_ARRAY | VT_I2, 0, "{1,0}"},
+                           {"LowerThresholdCritical", VT_I4, 0, "20"},
+                           {"LowerThresholdFatal", VT_I4, 0, "10"},
+                           {"LowerThresholdNonCritical", VT_I4, 0, "-100"},
+                           {"CurrentReading", VT_I4, 0, "220"},
+                           {"Name", VT_BSTR, 0, "System Level"},
+                           {"Status", VT_BSTR, 0, "OK"},
+                           {"UpperThresholdCritical", VT_I4, 0, "550"},
+                           {"UpperThresholdFatal", VT_I4, 0, "600"},
+                           {"UpperThresholdNonCritical", VT_I4, 0, "500"},
+                           {"CreationClassName", VT_BSTR, 0, "VORN_PowerConsumptionWattsSensor"},
+                           {"SystemCreationClassName", VT_BSTR, 0, "CIM_ComputerSystem"},
+                           {"SystemName", VT_BSTR, 0, "RACK42-NODE0007"},
+                           {"DeviceID", VT_BSTR, 0, "0"}};
 
 TEST_F(VornPowerConsumptionWattsSensorTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(0, Enumerate("VORN_PowerConsumptionWattsSensor"));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kSensor, Delivered(0));
+  EXPECT_EQ(kWattsSensor, Delivered(0));
 }
 
 TEST_F(VornPowerConsumptionWattsSensorTest, IsGotWithTheSameProperties) {
   EXPECT_EQ(0, Get("VORN_PowerConsumptionWattsSensor", StringKey(OLESTR("DeviceID"), OLESTR("0"))));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kSensor, Delivered(0));
+  EXPECT_EQ(kWattsSensor, Delivered(0));
 }
 
 TEST_F(VornPowerConsumptionWattsSensorTest, TakesSubtypes24And26Only) {

@@ -13,21 +13,21 @@ class VornPsRedundancyGroupTest : public PowerTest {
   }
 };
 
-const Puts kGroup = {{"MinNumberNeeded", VT_I4, 0, "2"},
-                     {"RedundancyStatus", VT_I4, 0, "2"},
-                     {"Name", VT_BSTR, 0, "Main"},
-                     {"CreationClassName", VT_BSTR, 0, "VORN_PSRedundancyGroup"}};
+const Puts kSupplyGroup = {{"MinNumberNeeded", VT_I4, 0, "2"},
+                           {"RedundancyStatus", VT_I4, 0, "2"},
+                           {"Name", VT_BSTR, 0, "Main"},
+                           {"CreationClassName", VT_BSTR, 0, "VORN_PSRedundancyGroup"}};
 
 TEST_F(VornPsRedundancyGroupTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(0, Enumerate("VORN_PSRedundancyGroup"));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kGroup, Delivered(0));
+  EXPECT_EQ(kSupplyGroup, Delivered(0));
 }
 
 TEST_F(VornPsRedundancyGroupTest, IsGotWithTheSameProperties) {
   EXPECT_EQ(0, Get("VORN_PSRedundancyGroup", StringKey(OLESTR("Name"), OLESTR("Main"))));
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(kGroup, Delivered(0));
+  EXPECT_EQ(kSupplyGroup, Delivered(0));
 }
 
 TEST_F(VornPsRedundancyGroupTest, IsNoGroupOfFans) {

@@ -18,24 +18,18 @@ class VornPsRedundancyTest : public PowerTest {
   HRESULT Associate() { return Enumerate("VORN_PSRedundancy"); }
 };
 
-constexpr char kMain0[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
-                          R"(CreationClassName="VORN_PSRedundancyGroup",Name="Main0")";
-constexpr char kMain1[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
-                          R"(CreationClassName="VORN_PSRedundancyGroup",Name="Main1")";
-constexpr char kSpare0[] = R"(\\.\root\cimv2\vorn:VORN_PSRedundancyGroup.)"
-                           R"(CreationClassName="VORN_PSRedundancyGroup",Name="Spare0")";
-constexpr char kSupply1[] =
+constexpr char kMemberSupply1[] =
     R"(\\.\root\cimv2\vorn:CIM_PowerSupply.CreationClassName="CCIM_PowerSupply",)"
     R"(SystemName="RACK42-NODE0007",DeviceID="PS1",SystemCreationClassName="CIM_ComputerSystem")";
-constexpr char kSupply2[] =
+constexpr char kMemberSupply2[] =
     R"(\\.\root\cimv2\vorn:CIM_PowerSupply.CreationClassName="CCIM_PowerSupply",)"
     R"(SystemName="RACK42-NODE0007",DeviceID="PS2",SystemCreationClassName="CIM_ComputerSystem")";
 
 TEST_F(VornPsRedundancyTest, PairsEachSupplyWithTheGroupNamedWithItsChassisIndex) {
   EXPECT_EQ(0, Associate());
   ASSERT_EQ(2u, DeliveredCount());
-  EXPECT_EQ(Ends(kSupply1, kMain0), Delivered(0));
-  EXPECT_EQ(Ends(kSupply2, kMain0), Delivered(1));
+  EXPECT_EQ(Ends(kMemberSupply1, kMain0), Delivered(0));
+  EXPECT_EQ(Ends(kMemberSupply2, kMain0), Delivered(1));
 }
 
 TEST_F(VornPsRedundancyTest, PairsAllSuppliesWithTheFirstGroupOnly) {
@@ -81,7 +75,7 @@ TEST_F(VornPsRedundancyTest, ASupplyOfKindElevenIsNeverAMember) {
   store.Object(200).U8(40, 11);
   EXPECT_EQ(0, Associate());
   ASSERT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(Ends(kSupply2, kMain0), Delivered(0));
+  EXPECT_EQ(Ends(kMemberSupply2, kMain0), Delivered(0));
 }
 
 TEST_F(VornPsRedundancyTest, SuppliesOfEveryOtherKindAreMembers) {
@@ -122,8 +116,8 @@ TEST_F(VornPsRedundancyTest, AGroupThatFailsToBeReadOnceIsPairedOnTheNextChassis
   store.FailRead(400, 1);
   EXPECT_EQ(0, Associate());
   ASSERT_EQ(2u, DeliveredCount());
-  EXPECT_EQ(Ends(kSupply1, kMain1), Delivered(0));
-  EXPECT_EQ(Ends(kSupply2, kMain1), Delivered(1));
+  EXPECT_EQ(Ends(kMemberSupply1, kMain1), Delivered(0));
+  EXPECT_EQ(Ends(kMemberSupply2, kMain1), Delivered(1));
 }
 
 TEST_F(VornPsRedundancyTest, ASupplyThatFailsToBeReadOnceGoesToTheNextGroup) {
@@ -132,8 +126,8 @@ TEST_F(VornPsRedundancyTest, ASupplyThatFailsToBeReadOnceGoesToTheNextGroup) {
   store.FailRead(201, 1);
   EXPECT_EQ(0, Associate());
   ASSERT_EQ(2u, DeliveredCount());
-  EXPECT_EQ(Ends(kSupply1, kMain0), Delivered(0));
-  EXPECT_EQ(Ends(kSupply2, kSpare0), Delivered(1));
+  EXPECT_EQ(Ends(kMemberSupply1, kMain0), Delivered(0));
+  EXPECT_EQ(Ends(kMemberSupply2, kSpare0), Delivered(1));
 }
 
 TEST_F(VornPsRedundancyTest, ReturnsTheReferencesThatAreLeftAfterTheLastRelease) {
