@@ -1,5 +1,6 @@
 #include "store/snapshot.h"
 
+#include <algorithm>
 #include <cstring>
 #include <map>
 #include <new>
@@ -11,31 +12,37 @@ namespace {
 /// Marks in the count of late holds that there will be no more.
 constexpr int64_t kClosed = int64_t{1} << 62;
 
+/// What a list takes of the room for all: each begins as aligned as malloc would have it.
+constexpr size_t SizeOfList(size_t oids) {
+  constexpr size_t kAlignment = sizeof(BlockPrefix);
+  const size_t size = sizeof(BlockPrefix) + (1 + oids) * sizeof(uint32_t);
+  return (size + kAlignment - 1) / kAlignment * kAlignment;
+}
+
 }  // namespace
 
-Snapshot::Snapshot(std::vector<StoredObject> objects)
-    : objects_(std::move(objects)), emptyList_(MakeList({})) {
-  // Ordered, so that the lists of neighbours lie side by side: walks go from one to the next.
-  std::map<ListKey, std::vector<uint32_t>> children;
-  for (const StoredObject& object : objects_) {
-    byOid_.emplace(object.oid, &object);
-    for (const uint32_t parent : object.parents) {
-      children[{parent, object.type}].push_back(object.oid);
-    }
-  }
-  for (const auto& [key, oids] : children) lists_.emplace(key, MakeList(oids));
+Snapshot::Snapshot(std::unique_ptr<std::pmr::memory_resource> memory,
+                   std::vector<StoredObject> objects)
+    : memory_(std::move(memory)), objects_(std::move(objects)), byOid_(memory_.get()) {
+  byOid_.reserve(objects_.size());
+  for (const StoredObject& object : objects_) byOid_.emplace(object.oid, Entry{&object, 0, 0});
+  MakeLists();
 }
 
 const StoredObject* Snapshot::Find(uint32_t oid) const {
   const auto found = byOid_.find(oid);
-  return found == byOid_.end() ? nullptr : found->second;
+  return found == byOid_.end() ? nullptr : found->second.object;
 }
 
 uint32_t* Snapshot::Children(uint32_t parent, uint16_t type) const {
-  const auto found = lists_.find({parent, type});
-  if (found == lists_.end() && Find(parent) == nullptr) return nullptr;
-  const ListBlock& block = found == lists_.end() ? emptyList_ : found->second;
-  return reinterpret_cast<uint32_t*>(block.get() + sizeof(BlockPrefix));
+  const auto found = byOid_.find(parent);
+  if (found == byOid_.end()) return nullptr;
+  const Entry& entry = found->second;
+  const ChildList* list = lists_.data() + entry.firstList;
+  const ChildList* const end = lists_.data() + entry.endOfLists;
+  while (list != end && list->type != type) ++list;
+  const uint32_t offset = list != end ? list->offset : 0;
+  return reinterpret_cast<uint32_t*>(blocks_.get() + offset + sizeof(BlockPrefix));
 }
 
 bool Snapshot::HoldRetired() {
@@ -58,15 +65,37 @@ bool Snapshot::Close() {
          lateHolds_.compare_exchange_strong(late, late | kClosed, std::memory_order_acq_rel);
 }
 
-Snapshot::ListBlock Snapshot::MakeList(std::span<const uint32_t> oids) {
-  const size_t size = sizeof(uint32_t) + oids.size_bytes();
-  auto block = std::make_unique<std::byte[]>(sizeof(BlockPrefix) + size);
-  new (block.get()) BlockPrefix{this, BlockKind::kSharedList, static_cast<uint32_t>(size)};
-  std::byte* list = block.get() + sizeof(BlockPrefix);
+void Snapshot::MakeLists() {
+  std::map<std::pair<uint32_t, uint16_t>, std::vector<uint32_t>> children;
+  for (const StoredObject& object : objects_) {
+    for (const uint32_t parent : object.parents) {
+      children[{parent, object.type}].push_back(object.oid);
+    }
+  }
+  size_t size = SizeOfList(0);
+  for (const auto& [key, oids] : children) size += SizeOfList(oids.size());
+  blocks_ = std::make_unique<std::byte[]>(size);
+  lists_.reserve(children.size());
+  uint32_t offset = PutList(0, {});
+  for (const auto& [key, oids] : children) {
+    const auto& [parent, type] = key;
+    Entry& entry = byOid_.at(parent);
+    const auto position = static_cast<uint32_t>(lists_.size());
+    if (entry.endOfLists == 0) entry.firstList = position;
+    entry.endOfLists = position + 1;
+    lists_.push_back({type, offset});
+    offset = PutList(offset, oids);
+  }
+}
+
+uint32_t Snapshot::PutList(uint32_t offset, std::span<const uint32_t> oids) {
   const auto count = static_cast<uint32_t>(oids.size());
-  std::memcpy(list, &count, sizeof(count));
-  if (!oids.empty()) std::memcpy(list + sizeof(count), oids.data(), oids.size_bytes());
-  return block;
+  std::byte* const block = blocks_.get() + offset;
+  const size_t size = sizeof count + oids.size_bytes();
+  new (block) BlockPrefix{this, BlockKind::kSharedList, static_cast<uint32_t>(size)};
+  std::memcpy(block + sizeof(BlockPrefix), &count, sizeof count);
+  std::copy_n(oids.begin(), count, reinterpret_cast<uint32_t*>(block + sizeof(BlockPrefix)) + 1);
+  return offset + static_cast<uint32_t>(SizeOfList(count));
 }
 
 }  // namespace tqcim::store

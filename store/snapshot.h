@@ -2,10 +2,10 @@
 #pragma once
 
 #include <atomic>
-#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <memory_resource>
 #include <span>
 #include <string>
 #include <unordered_map>
@@ -54,7 +54,7 @@ struct StoredObject {
   uint32_t oid;
   uint16_t type;
   /// Header, body and texts.
-  std::vector<std::byte> bytes;
+  std::pmr::vector<std::byte> bytes;
   /// The objects under which it is listed, in the order given.
   std::vector<uint32_t> parents;
   /// What an event log holds, the oldest first.
@@ -70,8 +70,9 @@ struct StoredObject {
 /// every list that a caller has not freed yet.
 class Snapshot {
  public:
-  /// `objects` are complete and consistent: SnapshotBuilder sees to that.
-  explicit Snapshot(std::vector<StoredObject> objects);
+  /// `objects` are complete and consistent, and their bytes lie in `memory`: SnapshotBuilder sees
+  /// to that.
+  Snapshot(std::unique_ptr<std::pmr::memory_resource> memory, std::vector<StoredObject> objects);
   Snapshot(const Snapshot&) = delete;
   Snapshot& operator=(const Snapshot&) = delete;
 
@@ -101,27 +102,32 @@ class Snapshot {
   bool Close();
 
  private:
-  struct ListKey {
-    uint32_t parent;
+  /// The children of one type; the block's prefix stands at `offset` in `blocks_`.
+  struct ChildList {
     uint16_t type;
-    auto operator<=>(const ListKey&) const = default;
+    uint32_t offset;
   };
-  struct ListKeyHash {
-    size_t operator()(const ListKey& key) const {
-      return std::hash<uint64_t>()(uint64_t{key.parent} << 16 | key.type);
-    }
+  /// An object, and which of `lists_` are its own.
+  struct Entry {
+    const StoredObject* object;
+    uint32_t firstList;
+    uint32_t endOfLists;
   };
-  /// A prefix followed by the count and the OIDs.
-  using ListBlock = std::unique_ptr<std::byte[]>;
 
-  ListBlock MakeList(std::span<const uint32_t> oids);
+  void MakeLists();
+  /// Writes a list to `blocks_`, and says where the next one goes.
+  uint32_t PutList(uint32_t offset, std::span<const uint32_t> oids);
 
   /// The callers' holds less `lateHolds_`.
   ShardedCount holds_;
+  /// Of the objects' bytes, and of `byOid_`.
+  const std::unique_ptr<std::pmr::memory_resource> memory_;
   const std::vector<StoredObject> objects_;
-  std::unordered_map<uint32_t, const StoredObject*> byOid_;
-  std::unordered_map<ListKey, ListBlock, ListKeyHash> lists_;
-  ListBlock emptyList_;
+  std::pmr::unordered_map<uint32_t, Entry> byOid_;
+  /// By the OID of the parent and the type, as are the blocks, of which the first is empty: walks
+  /// go from neighbour to neighbour.
+  std::vector<ChildList> lists_;
+  std::unique_ptr<std::byte[]> blocks_;
 
   std::atomic<bool> inService_{true};
   /// What HoldRetired gave. Never falls: holds are given back to `holds_`. There only counting down

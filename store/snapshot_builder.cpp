@@ -81,7 +81,7 @@ std::u16string ObjectDraft::StoredText(const char* name, std::string_view utf8) 
   return std::move(*utf16);
 }
 
-StoredObject ObjectDraft::Finish() {
+StoredObject ObjectDraft::Finish(std::pmr::memory_resource& memory) {
   const auto append = [&](char16_t unit) {
     bytes_.push_back(static_cast<std::byte>(unit & 0xFF));
     bytes_.push_back(static_cast<std::byte>(unit >> 8));
@@ -96,7 +96,8 @@ StoredObject ObjectDraft::Finish() {
     if (text != texts_.end()) std::for_each(text->second.begin(), text->second.end(), append);
     append(u'\0');
   }
-  return {oid_, layout_->type, std::move(bytes_), std::move(parents_), std::move(records_)};
+  std::pmr::vector<std::byte> bytes(bytes_.begin(), bytes_.end(), &memory);
+  return {oid_, layout_->type, std::move(bytes), std::move(parents_), std::move(records_)};
 }
 
 void ObjectDraft::Store(uint32_t offset, uint32_t width, uint64_t value) {
@@ -123,11 +124,13 @@ std::unique_ptr<Snapshot> SnapshotBuilder::Build() {
   CheckObjects();
   CheckLists();
   CheckDescent();
+  // One behind the other, as walks read them.
+  auto memory = std::make_unique<std::pmr::monotonic_buffer_resource>();
   std::vector<StoredObject> objects;
   objects.reserve(drafts_.size());
-  for (ObjectDraft& draft : drafts_) objects.push_back(draft.Finish());
+  for (ObjectDraft& draft : drafts_) objects.push_back(draft.Finish(*memory));
   drafts_.clear();
-  return std::make_unique<Snapshot>(std::move(objects));
+  return std::make_unique<Snapshot>(std::move(memory), std::move(objects));
 }
 
 void SnapshotBuilder::CheckObjects() const {

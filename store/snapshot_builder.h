@@ -68,8 +68,8 @@ class ObjectDraft {
   uint16_t Type() const { return layout_->type; }
 
   /// The finished object: the texts stand behind the body in the order of their fields, each at an
-  /// even offset. The draft is used up.
-  StoredObject Finish();
+  /// even offset. Its bytes lie in `memory`. The draft is used up.
+  StoredObject Finish(std::pmr::memory_resource& memory);
 
  private:
   void Store(uint32_t offset, uint32_t width, uint64_t value);

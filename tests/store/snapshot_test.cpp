@@ -97,7 +97,7 @@ TEST(Snapshot, TextsStandAtEvenOffsetsBehindAnOddBody) {
   static constexpr layout::ObjectLayout kOdd{17, "odd", kFields};
   ObjectDraft draft(3, kOdd, Status::kOk, {2}, "");
   draft.Set(kName, "x");
-  const StoredObject object = draft.Finish();
+  const StoredObject object = draft.Finish(*std::pmr::new_delete_resource());
   EXPECT_EQ(U32(object.bytes.data(), 77), 82U);
   EXPECT_EQ(object.bytes.size(), 86U);
 }
