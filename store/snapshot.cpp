@@ -38,10 +38,10 @@ uint32_t* Snapshot::Children(uint32_t parent, uint16_t type) const {
   const auto found = byOid_.find(parent);
   if (found == byOid_.end()) return nullptr;
   const Entry& entry = found->second;
-  const ChildList* list = lists_.data() + entry.firstList;
   const ChildList* const end = lists_.data() + entry.endOfLists;
-  while (list != end && list->type != type) ++list;
-  const uint32_t offset = list != end ? list->offset : 0;
+  const ChildList* const list =
+      std::ranges::lower_bound(lists_.data() + entry.firstList, end, type, {}, &ChildList::type);
+  const uint32_t offset = list != end && list->type == type ? list->offset : 0;
   return reinterpret_cast<uint32_t*>(blocks_.get() + offset + sizeof(BlockPrefix));
 }
 
