@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <charconv>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -40,7 +40,12 @@ using OffsetText = std::array<char, 5>;
 OffsetText OffsetTextAt(std::time_t now) {
   OffsetText text{};
   const double minutes = UtcOffsetMinutes(now);
-  std::snprintf(text.data(), text.size(), minutes < 0 ? "%04f" : "+%03f", minutes);
+  // Whatever the locale of the host has for a decimal point.
+  std::array<char, 32> number{};
+  char* const begin = number.data() + (minutes < 0 ? 0 : 1);
+  number[0] = '+';
+  std::to_chars(begin, number.data() + number.size(), minutes, std::chars_format::fixed, 6);
+  std::copy_n(number.begin(), text.size() - 1, text.begin());
   return text;
 }
 
