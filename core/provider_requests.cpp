@@ -87,7 +87,7 @@ HRESULT DeliverInstance(BSTR objectPath, IWbemObjectSink* sink) {
   Com<IWbemPathKeyList> keys;
   if (SUCCEEDED(path->SetText(WBEMPATH_CREATE_ACCEPT_ALL, ownedPath.get()))) {
     className = ClassNameOf(path.get());
-    if (FAILED(path->GetKeyList(keys.Receive()))) keys = {};
+    if (FAILED(path->GetKeyList(keys.Receive()))) keys.Detach();
   }
   BaseClass* const handler = Lookup(BstrToNarrow(className.get()).get());
 

@@ -1,5 +1,8 @@
 // Where the module looks for the classes of the management service. On Windows a class that is
 // registered for another process would be reached through a proxy, so this is seen here only.
+#include <runtime_ledger.h>
+
+#include "core/module.h"
 #include "tests/core/provider_fixture.h"
 
 namespace tqcim::testing {
@@ -22,6 +25,13 @@ class ActivationTest : public ModuleTest {
   FakeFactory locatorFactory{
       [this](REFIID iid, void** object) { return locator.QueryInterface(iid, object); }};
 };
+
+TEST_F(ActivationTest, EachLeavesTheTextOfItsClsid) {
+  const int64_t before = CurrentRuntimeLedger().taskBlocks;
+  void* factory = nullptr;
+  EXPECT_EQ(Hr(0x80004005), DllGetClassObject(CLSID_WbemLocator, IID_IClassFactory, &factory));
+  EXPECT_EQ(before + 1, CurrentRuntimeLedger().taskBlocks);
+}
 
 TEST_F(ActivationTest, TheLocatorMayLiveInThisProcessOrInAnother) {
   for (const DWORD context : {CLSCTX_INPROC_SERVER, CLSCTX_LOCAL_SERVER}) {
