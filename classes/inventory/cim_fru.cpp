@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "classes/device_names.h"
 #include "classes/inventory/handlers.h"
 #include "core/cim_datetime.h"
@@ -20,9 +22,9 @@ void PutText(Instance& instance, const OLECHAR* name, const DataObject& object,
   instance.Put(name, Variant::Text(object[field].get()));
 }
 
-void PutManufacturingDate(Instance& instance, int64_t secondsSince1970) {
-  if (secondsSince1970 == 0) return;
-  if (const SupportText date = FormatLocalDateTime(secondsSince1970)) {
+void PutManufacturingDate(Instance& instance, uint64_t secondsSince1970) {
+  if (secondsSince1970 == 0 || !std::in_range<int64_t>(secondsSince1970)) return;
+  if (const SupportText date = FormatLocalDateTime(static_cast<int64_t>(secondsSince1970))) {
     instance.PutDateTime(OLESTR("FRUManufacturingDateName"), date.get());
   }
 }

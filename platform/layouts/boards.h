@@ -37,7 +37,7 @@ inline constexpr uint16_t kOtherOwnType = 386;
 inline constexpr Field<uint8_t> kInformationState{"informationState", 17};
 inline constexpr Utf8Field kDeviceName{"deviceName", 32};
 /// Seconds since 1970-01-01 UTC; 0 = none.
-inline constexpr Field<int64_t> kManufacturingDate{"manufacturingDate", 24};
+inline constexpr Field<uint64_t> kManufacturingDate{"manufacturingDate", 24};
 inline constexpr Utf8Field kManufacturer{"manufacturer", 36};
 inline constexpr Utf8Field kSerialNumber{"serialNumber", 40};
 inline constexpr Utf8Field kPartNumber{"partNumber", 48};
@@ -55,7 +55,7 @@ namespace fru_identity {
 inline constexpr uint16_t kType = 389;
 
 /// Seconds since 1970-01-01 UTC; 0 = none.
-inline constexpr Field<int64_t> kManufacturingDate{"manufacturingDate", 28};
+inline constexpr Field<uint64_t> kManufacturingDate{"manufacturingDate", 28};
 inline constexpr Utf8Field kManufacturer{"manufacturer", 36};
 inline constexpr Utf8Field kSerialNumber{"serialNumber", 44};
 inline constexpr Utf8Field kPartNumber{"partNumber", 48};

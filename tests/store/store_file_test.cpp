@@ -207,8 +207,9 @@ TEST(StoreFile, NumbersOutsideTheirFieldAreRefused) {
       {"memoryDevice", "speed", "0", "4294967295", "-1", "4294967296"},
       {"networkAdapter", "partitionEnabled", "-32768", "32767", "-32769", "32768"},
       {"fanProbe", "currentReading", "-2147483648", "2147483647", "-2147483649", "2147483648"},
-      {"fru", "manufacturingDate", "-9223372036854775808", "9223372036854775807",
+      {"powerConsumption", "peakWattsTime", "-9223372036854775808", "9223372036854775807",
        "-9223372036854775809", "9223372036854775808"},
+      {"fru", "manufacturingDate", "0", "18446744073709551615", "-1", "18446744073709551616"},
       {"bios", "characteristics", "0", "18446744073709551615", "-1", "18446744073709551616"},
   };
   for (const auto& c : cases) {

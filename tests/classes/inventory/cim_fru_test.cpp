@@ -165,10 +165,14 @@ TEST_F(CimFruTest, TheFirstSecondOf1970IsADate) {
 }
 
 TEST_F(CimFruTest, ADateThatNoCalendarHasIsLeftOut) {
-  store.Object(22).U64(24, 0x7FFFFFFFFFFFFFFF);
-  EXPECT_EQ(0, Enumerate("CIM_FRU"));
-  EXPECT_EQ("<absent>", Value(1, "FRUManufacturingDateName"));
-  EXPECT_EQ("Maker S", Value(1, "FRUManufacturerName"));
+  // The last would be a second before 1970, were it a signed number.
+  for (const uint64_t date : {0x7FFFFFFFFFFFFFFFu, 0x8000000000000000u, 0xFFFFFFFFFFFFFFFFu}) {
+    store.Object(22).U64(24, date);
+    const size_t first = DeliveredCount();
+    EXPECT_EQ(0, Enumerate("CIM_FRU"));
+    EXPECT_EQ("<absent>", Value(first + 1, "FRUManufacturingDateName"));
+    EXPECT_EQ("Maker S", Value(first + 1, "FRUManufacturerName"));
+  }
 }
 
 TEST_F(CimFruTest, OnlyTheDateIsLeftOutWhereTheSupportLibraryHasNoMemory) {
