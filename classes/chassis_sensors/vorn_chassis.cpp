@@ -84,8 +84,9 @@ void PutIdentity(Instance& instance, const DataObject& object) {
   }
 }
 
-/// Without a description the instance has no `Status` either.
-void PutChassisProperties(Instance& instance, uint32_t oid, const DataObject& chassisObject) {
+/// Without a description the instance has no `Status` either. The object goes back to the library
+/// before the instance is delivered.
+void PutChassisProperties(Instance& instance, uint32_t oid, DataObject chassisObject) {
   PutRollUps(instance, oid);
   if (const DataObject object = GetChildObject(oid, description::kType, 0)) {
     PutDescription(instance, chassisObject, object);
@@ -111,8 +112,8 @@ HRESULT VORN_Chassis::EnumerateInstances(IWbemClassObject* classDefinition, IWbe
     Instance instance(classDefinition);
     status = instance.SpawnStatus();
     if (!instance) break;
-    if (const DataObject object = ReadObject(list[i])) {
-      PutChassisProperties(instance, list[i], object);
+    if (DataObject object = ReadObject(list[i])) {
+      PutChassisProperties(instance, list[i], std::move(object));
       status = instance.Indicate(sink);
     }
   }
@@ -130,9 +131,9 @@ HRESULT VORN_Chassis::GetInstance(IWbemClassObject* classDefinition, IWbemPathKe
     Instance instance(classDefinition);
     status = instance.SpawnStatus();
     if (!instance) break;
-    const DataObject object = ReadObject(list[i]);
+    DataObject object = ReadObject(list[i]);
     if (object && HasTag(list[i], key.value.text())) {
-      PutChassisProperties(instance, list[i], object);
+      PutChassisProperties(instance, list[i], std::move(object));
       status = instance.Indicate(sink);
     }
   }

@@ -22,7 +22,9 @@ HRESULT DeliverDevice(const DataObject& object, Instance& instance, IWbemObjectS
 
 HRESULT Vorn_ManagedSystemServicesDevice::EnumerateInstances(IWbemClassObject* classDefinition,
                                                              IWbemObjectSink* sink) {
-  const DataObject object = GetChildObjectOfOid2(0, device::kType);
+  const OidList devices = ListChildren(layout::system::kMainChassisOid, device::kType);
+  if (devices.empty()) return S_OK;
+  const DataObject object = ReadObject(devices[0]);
   if (!object) return S_OK;
   Instance instance(classDefinition);
   // Unlike the single request, the enumeration has no word of a failed spawn.

@@ -32,7 +32,7 @@ bool IsKnownSize(uint32_t freeSizeMb) {
   return freeSizeMb < card::kFreeSizeNone - 1;
 }
 
-void PutCardProperties(Instance& instance, const DataObject& object, uint32_t index) {
+void PutCardProperties(Instance& instance, DataObject object, uint32_t index) {
   instance.Put(OLESTR("sdType"), Variant::Uint8(object[card::kCardType]));
   if (const auto certified = CertifiedOf(object[card::kCertified])) {
     instance.Put(OLESTR("sdCertified"), Variant::Uint8(*certified));
@@ -56,11 +56,11 @@ HRESULT Vorn_SDCardDevice::EnumerateInstances(IWbemClassObject* classDefinition,
   const OidList cards = ListChildren(layout::system::kMainChassisOid, card::kType);
   HRESULT status = S_OK;
   for (uint32_t i = 0; i < cards.size(); ++i) {
-    const DataObject object = ReadObject(cards[i]);
+    DataObject object = ReadObject(cards[i]);
     if (!object) break;
     Instance instance(classDefinition);
     if (!instance) return instance.SpawnStatus();
-    PutCardProperties(instance, object, i);
+    PutCardProperties(instance, std::move(object), i);
     status = instance.Indicate(sink);
   }
   return status;
@@ -77,11 +77,11 @@ HRESULT Vorn_SDCardDevice::GetInstance(IWbemClassObject* classDefinition, IWbemP
   HRESULT status = S_OK;
   for (uint32_t i = 0; wanted && i < cards.size(); ++i) {
     if (std::to_string(i) != wanted.get()) continue;
-    const DataObject object = ReadObject(cards[i]);
+    DataObject object = ReadObject(cards[i]);
     Instance instance(classDefinition);
     if (!instance) return instance.SpawnStatus();
     if (!object) continue;
-    PutCardProperties(instance, object, i);
+    PutCardProperties(instance, std::move(object), i);
     status = instance.Indicate(sink);
   }
   return status;

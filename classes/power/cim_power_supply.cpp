@@ -98,6 +98,8 @@ HRESULT CIM_PowerSupply::EnumerateInstances(IWbemClassObject* classDefinition,
 
 HRESULT CIM_PowerSupply::GetInstance(IWbemClassObject* classDefinition, IWbemPathKeyList* keys,
                                      IWbemObjectSink* sink) {
+  // Unlike other classes, this one never answers "not found".
+  if (!keys) return S_OK;
   const PathKey key = FindTextKey(keys, property::kDeviceId, TextKey::kByVariant);
   if (!key.found) return key.status;
   const OidList chassis = ListChildren(layout::system::kRootOid, layout::chassis::kType);

@@ -18,16 +18,27 @@ void PutCustomProfile(Instance& instance, const DataObject& object, const OLECHA
   instance.Put(setting, Variant::Int32(object[custom::kSetting]));
 }
 
-void PutProfileProperties(Instance& instance, const DataObject& object) {
-  const DataObject memory = GetChildObject(object.Oid(), custom::kMemoryType, 0);
-  const DataObject fans = GetChildObject(object.Oid(), custom::kFanType, 0);
-  const DataObject processor = GetChildObject(object.Oid(), custom::kProcessorType, 0);
+/// The custom profiles below a profile, in the order in which they are read.
+struct CustomProfiles {
+  explicit CustomProfiles(const DataObject& object)
+      : memory(GetChildObject(object.Oid(), custom::kMemoryType, 0)),
+        fans(GetChildObject(object.Oid(), custom::kFanType, 0)),
+        processor(GetChildObject(object.Oid(), custom::kProcessorType, 0)) {}
+
+  DataObject memory;
+  DataObject fans;
+  DataObject processor;
+};
+
+void PutProfileProperties(Instance& instance, const DataObject& object,
+                          const CustomProfiles& profiles) {
   instance.Put(OLESTR("chassisIndex"), Variant::Uint8(0));
   instance.Put(OLESTR("supportedProfile"), Variant::Int32(object[profile::kSupportedProfiles]));
   instance.Put(OLESTR("profileSetting"), Variant::Int32(object[profile::kSetting]));
-  PutCustomProfile(instance, processor, OLESTR("customCPUCaps"), OLESTR("customCPUSettings"));
-  PutCustomProfile(instance, memory, OLESTR("customMemCaps"), OLESTR("customMemSettings"));
-  PutCustomProfile(instance, fans, OLESTR("customFanCaps"), OLESTR("customFanSettings"));
+  PutCustomProfile(instance, profiles.processor, OLESTR("customCPUCaps"),
+                   OLESTR("customCPUSettings"));
+  PutCustomProfile(instance, profiles.memory, OLESTR("customMemCaps"), OLESTR("customMemSettings"));
+  PutCustomProfile(instance, profiles.fans, OLESTR("customFanCaps"), OLESTR("customFanSettings"));
 }
 
 }  // namespace
@@ -39,19 +50,20 @@ HRESULT Vorn_PowerProfileData::EnumerateInstances(IWbemClassObject* classDefinit
   if (!object) return S_OK;
   Instance instance(classDefinition);
   if (!instance) return S_OK;
-  PutProfileProperties(instance, object);
+  PutProfileProperties(instance, object, CustomProfiles(object));
   instance.Indicate(sink);
   return S_OK;
 }
 
-/// Whatever the keys say: there is one profile.
+/// Whatever the keys say: there is one profile. Unlike the enumeration it reads all of it first.
 HRESULT Vorn_PowerProfileData::GetInstance(IWbemClassObject* classDefinition, IWbemPathKeyList*,
                                            IWbemObjectSink* sink) {
   const DataObject object = GetChildObjectOfOid2(0, profile::kType);
   if (!object) return kNotFound;
+  const CustomProfiles profiles(object);
   Instance instance(classDefinition);
   if (!instance) return instance.SpawnStatus();
-  PutProfileProperties(instance, object);
+  PutProfileProperties(instance, object, profiles);
   instance.Indicate(sink);
   return S_OK;
 }

@@ -11,6 +11,7 @@ namespace tqcim::testing {
 
 HRESULT FakeSink::Indicate(LONG count, IWbemClassObject** objects) {
   const OutsideCall call(Call::kIndicate);
+  atIndicate_();
   EXPECT_EQ(1, count) << "instances are delivered one by one";
   auto* const instance = static_cast<RecordingInstance*>(objects[0]);
   instance->ExpectHeld("Indicate");

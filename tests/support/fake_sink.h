@@ -1,8 +1,10 @@
 /// The sink to which a handler delivers instances.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "tests/support/fake_class.h"
@@ -24,6 +26,8 @@ class FakeSink final : public ComFake<IWbemObjectSink, IID_IWbemObjectSink> {
   void Refuse(uint32_t position, HRESULT result) { refusals_[position] = result; }
   /// Every Indicate that Refuse leaves returns this.
   void SetIndicateResult(HRESULT result) { indicateResult_ = result; }
+  /// Does this at the beginning of each Indicate.
+  void AtIndicate(std::function<void()> act) { atIndicate_ = std::move(act); }
   /// Keeps a reference of each instance until it gives them back.
   void KeepInstances() { keeping_ = true; }
   void GiveInstancesBack();
@@ -46,6 +50,7 @@ class FakeSink final : public ComFake<IWbemObjectSink, IID_IWbemObjectSink> {
  private:
   std::map<uint32_t, HRESULT> refusals_;
   HRESULT indicateResult_ = S_OK;
+  std::function<void()> atIndicate_ = [] {};
   bool keeping_ = false;
   std::vector<IWbemClassObject*> kept_;
   std::vector<Puts> delivered_;

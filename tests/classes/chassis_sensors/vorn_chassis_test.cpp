@@ -21,6 +21,13 @@ const Puts kRollUpsOfABareChassis = {{"TempStatus", VT_BSTR, 0, "Unknown"},
                                      {"SecurityBreach", VT_I4, 0, "2"},
                                      {"LogFormat", VT_I4, 0, "5"}};
 
+TEST_F(VornChassisTest, AChassisGoesBackToTheLibraryBeforeItIsDelivered) {
+  size_t live = 0;
+  sink.AtIndicate([&] { live = store.LiveBlocks(); });
+  EXPECT_EQ(0, Enumerate("VORN_Chassis"));
+  EXPECT_EQ(1u, live) << "the list alone is there";
+}
+
 TEST_F(VornChassisTest, PutsItsPropertiesInOrder) {
   AddIdentity();
   AddChildren(22, 2200, {0});

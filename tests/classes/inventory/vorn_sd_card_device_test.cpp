@@ -65,6 +65,14 @@ TEST_F(VornSdCardDeviceTest, EnumeratesEveryCardInStoreOrder) {
   EXPECT_EQ(kCardWithoutName, Delivered(2));
 }
 
+TEST_F(VornSdCardDeviceTest, ACardGoesBackToTheLibraryBeforeItIsDelivered) {
+  std::vector<size_t> live;
+  sink.AtIndicate([&] { live.push_back(store.LiveBlocks()); });
+  Enumerate(kSdCard);
+  NamesGotBy(OLESTR("1"));
+  EXPECT_EQ((std::vector<size_t>{1, 1, 1, 1}), live) << "the list alone is there";
+}
+
 TEST_F(VornSdCardDeviceTest, CertificationIsTranslated) {
   constexpr std::pair<uint8_t, const char*> kRows[] = {
       {0, "1"},          {1, "2"},   {2, "<absent>"},  {3, "<absent>"},

@@ -113,7 +113,9 @@ TEST_P(PowerKeysTest, KeysThatCannotBeCountedAreNotRead) {
 }
 
 TEST_P(PowerKeysTest, WithoutAKeyListNothingIsFound) {
-  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(GetParam().name));
+  // Power supplies alone never tell it.
+  const bool neverTold = GetParam().name == std::string_view("CIM_PowerSupply");
+  EXPECT_EQ(neverTold ? S_OK : Hr(0x80041002), GetWithoutKeys(GetParam().name));
   EXPECT_EQ(0u, DeliveredCount());
 }
 

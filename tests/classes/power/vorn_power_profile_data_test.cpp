@@ -50,6 +50,24 @@ TEST_F(VornPowerProfileDataTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(Together({kProfile, kProcessor, kMemory, kFans}), Delivered(0));
 }
 
+TEST_F(VornPowerProfileDataTest, TheCustomProfilesAreReadBehindTheSpawnOrBeforeIt) {
+  const std::vector<std::string> profile = {"children 2/48", "object 700", "free"};
+  const std::vector<std::string> custom = {"children 700/80", "object 780", "free",
+                                           "children 700/81", "object 781", "free",
+                                           "children 700/82", "object 782", "free"};
+  for (uint32_t i = 0; i < 2; ++i) definition.SpawnNothing(i, Hr(0x80041006));
+  store.RecordCalls();
+  EnumerateProfile();
+  std::vector<std::string> expected = profile;
+  expected.push_back("free");
+  EXPECT_EQ(expected, store.Calls()) << "the enumeration spawns first";
+  GetProfile();
+  expected.insert(expected.end(), profile.begin(), profile.end());
+  expected.insert(expected.end(), custom.begin(), custom.end());
+  expected.insert(expected.end(), 4, "free");
+  EXPECT_EQ(expected, store.Calls());
+}
+
 TEST_F(VornPowerProfileDataTest, IsGotByAnyKeys) {
   EXPECT_EQ(0, Get("VORN_PowerProfileData", NumberKey(OLESTR("chassisIndex"), 9)));
   FakeKeyList unreadable;
