@@ -47,17 +47,24 @@ HRESULT EnumerateByCursor(uint16_t objectType, IWbemClassObject* classDefinition
   }
 }
 
+/// How a class reads its `DeviceID` key.
+struct CursorKey {
+  TextKey kind;
+  int32_t (*scan)(const OLECHAR* text);
+};
+
 /// Delivers the object that the `DeviceID` key finds, filled as above. The whole number counts as
 /// position in the first chassis: past its end the walk stops at the first object of the next
 /// chassis, so that "105" gives object "100". Clients rely on a look-up that does not fail there.
 /// Without a key or an object the result is that of the key's reading.
 template <typename PutProperties>
-HRESULT GetByCursor(uint16_t objectType, TextKey kind, IWbemClassObject* classDefinition,
-                    IWbemPathKeyList* keys, IWbemObjectSink* sink, PutProperties put) {
-  const PathKey key = FindTextKey(keys, property::kDeviceId, kind);
+HRESULT GetByCursor(uint16_t objectType, const CursorKey& cursorKey,
+                    IWbemClassObject* classDefinition, IWbemPathKeyList* keys,
+                    IWbemObjectSink* sink, PutProperties put) {
+  const PathKey key = FindTextKey(keys, property::kDeviceId, cursorKey.kind);
   if (!key.found) return key.status;
   uint32_t outer = 0;
-  uint32_t inner = static_cast<uint16_t>(ScanDecimal(key.value.text()));
+  uint32_t inner = static_cast<uint16_t>(cursorKey.scan(key.value.text()));
   const DataObject object = GetObjectByCursor(outer, inner, objectType);
   if (!object) return key.status;
   Instance instance(classDefinition);

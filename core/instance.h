@@ -18,9 +18,10 @@ class Instance {
   /// Puts one property. The result of a put is nobody's concern: a property that the class does not
   /// declare stays out, and the rest of the instance is delivered.
   /// `type` is 0, or the CIM type that the VARIANT alone does not tell.
-  void Put(const OLECHAR* name, Variant value, CIMTYPE type = 0) {
+  void Put(const OLECHAR* name, Variant& value, CIMTYPE type = 0) {
     instance_->Put(name, 0, value.get(), type);
   }
+  void Put(const OLECHAR* name, Variant&& value, CIMTYPE type = 0) { Put(name, value, type); }
   /// Puts an unsigned 64-bit number as decimal text with CIM type uint64.
   void PutUint64(const OLECHAR* name, uint64_t value);
   /// Puts CIM datetime text.

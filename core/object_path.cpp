@@ -5,7 +5,6 @@
 #include <limits>
 
 #include "core/computer_name.h"
-#include "platform/libraries.h"
 
 namespace tqcim {
 
@@ -41,9 +40,6 @@ ObjectPath FormatObjectPath(
   return path;
 }
 
-PathComputerName::PathComputerName() {
-  uint32_t size = sizeof text_;
-  SMUTF8StrToUCS2Str(text_, &size, ComputerName());
-}
+PathComputerName::PathComputerName() : Ucs2Text(ComputerName()) {}
 
 }  // namespace tqcim

@@ -9,7 +9,7 @@
 #include <string_view>
 #include <variant>
 
-#include "platform/wmi.h"
+#include "core/text.h"
 
 namespace tqcim {
 
@@ -59,13 +59,9 @@ ObjectPath FormatObjectPath(const PathFormat& format,
                             std::initializer_list<std::variant<const OLECHAR*, int32_t>> arguments);
 
 /// The computer's name as the support library converts it, for use in paths.
-class PathComputerName {
+class PathComputerName : public Ucs2Text {
  public:
   PathComputerName();
-  const OLECHAR* text() const { return text_; }
-
- private:
-  OLECHAR text_[128] = {};
 };
 
 }  // namespace tqcim

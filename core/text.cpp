@@ -2,6 +2,8 @@
 
 #include <iterator>
 
+#include "platform/libraries.h"
+
 namespace tqcim {
 namespace {
 
@@ -48,6 +50,11 @@ std::unique_ptr<char[]> BstrToNarrow(const OLECHAR* text) {
   return converted;
 }
 
+Ucs2Text::Ucs2Text(const char* narrow) {
+  uint32_t size = kSizeInBytes;
+  SMUTF8StrToUCS2Str(text_, &size, narrow);
+}
+
 bool EqualIgnoringCase(const OLECHAR* a, const OLECHAR* b) {
   if (!a || !b) return false;
   while (*a && LowerCase(*a) == LowerCase(*b)) ++a, ++b;
@@ -65,6 +72,9 @@ int32_t ScanDecimal(const OLECHAR* text) {
 }
 int32_t ScanDecimal(const char* text) {
   return ScanDecimalText(text);
+}
+int32_t ScanAsNarrow(const OLECHAR* text) {
+  return ScanDecimal(BstrToNarrow(text).get());
 }
 
 }  // namespace tqcim

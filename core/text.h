@@ -14,6 +14,18 @@ Bstr NarrowToBstr(const char* text);
 /// A BSTR to narrow text with the ANSI code page. Null gives null.
 std::unique_ptr<char[]> BstrToNarrow(const OLECHAR* text);
 
+/// A narrow text as the support library converts it, which the provider has always given this room.
+class Ucs2Text {
+ public:
+  explicit Ucs2Text(const char* narrow);
+  const OLECHAR* text() const { return text_; }
+
+ private:
+  static constexpr uint32_t kSizeInBytes = 256;
+
+  OLECHAR text_[kSizeInBytes / sizeof(OLECHAR)] = {};
+};
+
 /// Whether two texts are equal without regard to the case of the letters A to Z. A null text equals
 /// none.
 bool EqualIgnoringCase(const OLECHAR* a, const OLECHAR* b);
@@ -25,5 +37,8 @@ bool Equal(const OLECHAR* a, const OLECHAR* b);
 /// beyond 32 bits wrap. 0 for a text that does not begin with a number, and for null.
 int32_t ScanDecimal(const OLECHAR* text);
 int32_t ScanDecimal(const char* text);
+/// The same after the conversion to narrow text, which makes plain digits and blanks of those that
+/// the ANSI code page has no others for.
+int32_t ScanAsNarrow(const OLECHAR* text);
 
 }  // namespace tqcim

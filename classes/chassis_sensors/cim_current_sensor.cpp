@@ -5,7 +5,10 @@
 namespace tqcim {
 namespace {
 
-constexpr ThresholdSensorClass kClass{layout::probe::kCurrentType, OLESTR("CIM_CurrentSensor")};
+// Alone among the sensors it reads its key without converting it: existing consumers see the same
+// objects by the same keys.
+constexpr ThresholdSensorClass kClass{layout::probe::kCurrentType, OLESTR("CIM_CurrentSensor"),
+                                      ScanDecimal};
 
 }  // namespace
 

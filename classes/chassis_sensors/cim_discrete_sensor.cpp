@@ -101,17 +101,16 @@ Variant NameOf(const DataObject& object) {
 void PutDiscreteSensorProperties(Instance& instance, const DataObject& object) {
   const Reading reading = ReadingOf(object);
   const auto deviceNumber = static_cast<int32_t>(object.Oid());
-  OLECHAR deviceId[16] = {};
-  uint32_t deviceIdSize = sizeof deviceId;
-  SMUTF8StrToUCS2Str(deviceId, &deviceIdSize, std::to_string(deviceNumber).c_str());
+  const Ucs2Text deviceId(std::to_string(deviceNumber).c_str());
+  Variant states = Variant::TextArray(reading.possible);
 
   instance.Put(property::kCurrentReading, Variant::Text(reading.current));
-  instance.Put(OLESTR("PossibleValues"), Variant::TextArray(reading.possible));
-  instance.Put(OLESTR("AcceptableValues"), Variant::TextArray(reading.possible));
+  instance.Put(OLESTR("PossibleValues"), states);
+  instance.Put(OLESTR("AcceptableValues"), states);
   instance.Put(property::kName, NameOf(object));
   instance.Put(property::kStatus, Variant::Text(StatusToText(object.Status())));
   PutDeviceNames(instance, OLESTR("CIM_DiscreteSensor"));
-  instance.Put(property::kDeviceId, Variant::Text(deviceId));
+  instance.Put(property::kDeviceId, Variant::Text(deviceId.text()));
 }
 
 void PutSensorType(Instance& instance, uint16_t objectType) {

@@ -32,8 +32,8 @@ HRESULT CIM_Fan::EnumerateInstances(IWbemClassObject* classDefinition, IWbemObje
 
 HRESULT CIM_Fan::GetInstance(IWbemClassObject* classDefinition, IWbemPathKeyList* keys,
                              IWbemObjectSink* sink) {
-  return GetByCursor(probe::kFanType, TextKey::kByApparentType, classDefinition, keys, sink,
-                     PutFanProperties);
+  return GetByCursor(probe::kFanType, {TextKey::kByApparentType, ScanAsNarrow}, classDefinition,
+                     keys, sink, PutFanProperties);
 }
 
 }  // namespace tqcim

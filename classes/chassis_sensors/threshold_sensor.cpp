@@ -61,8 +61,8 @@ HRESULT EnumerateThresholdSensors(const ThresholdSensorClass& sensorClass,
 HRESULT GetThresholdSensor(const ThresholdSensorClass& sensorClass,
                            IWbemClassObject* classDefinition, IWbemPathKeyList* keys,
                            IWbemObjectSink* sink) {
-  return GetByCursor(sensorClass.objectType, TextKey::kByApparentType, classDefinition, keys, sink,
-                     PutPropertiesOf(sensorClass.className));
+  return GetByCursor(sensorClass.objectType, {TextKey::kByApparentType, sensorClass.scanKey},
+                     classDefinition, keys, sink, PutPropertiesOf(sensorClass.className));
 }
 
 }  // namespace tqcim

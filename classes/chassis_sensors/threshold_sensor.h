@@ -7,6 +7,7 @@
 #include "core/base_class.h"
 #include "core/instance.h"
 #include "core/store_access.h"
+#include "core/text.h"
 
 namespace tqcim {
 
@@ -19,6 +20,8 @@ void PutThresholdSensorProperties(Instance& instance, const DataObject& object,
 struct ThresholdSensorClass {
   uint16_t objectType;
   const OLECHAR* className;
+  /// Reads the number of the `DeviceID` key.
+  int32_t (*scanKey)(const OLECHAR* text) = ScanAsNarrow;
 };
 
 /// Delivers every probe of the class's type; the result of the last delivery.

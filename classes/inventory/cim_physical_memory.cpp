@@ -76,7 +76,7 @@ HRESULT CIM_PhysicalMemory::GetInstance(IWbemClassObject* classDefinition, IWbem
                                         IWbemObjectSink* sink) {
   const PathKey key = FindTextKey(keys, kTag, TextKey::kByVariant);
   if (!key.value.text()) return key.status;
-  const auto index = static_cast<uint16_t>(ScanDecimal(key.value.text()));
+  const auto index = static_cast<uint16_t>(ScanAsNarrow(key.value.text()));
   const DataObject object = GetChildObjectOfOid2(index, memory::kType);
   if (!object) return kNotFound;
   Instance instance(classDefinition);

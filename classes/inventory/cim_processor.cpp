@@ -82,7 +82,7 @@ HRESULT CIM_Processor::GetInstance(IWbemClassObject* classDefinition, IWbemPathK
                                    IWbemObjectSink* sink) {
   const PathKey key = FindTextKey(keys, property::kDeviceId, TextKey::kByVariant);
   if (!key.value.text()) return key.status;
-  const auto i = static_cast<uint16_t>(ScanDecimal(key.value.text()));
+  const auto i = static_cast<uint32_t>(ScanAsNarrow(key.value.text()));
   const OidList sockets = ListChildren(layout::system::kMainChassisOid, device::kType);
   if (i >= sockets.size()) return S_OK;
   const DataObject socket = ReadObject(sockets[i]);

@@ -41,7 +41,8 @@ HRESULT GetPowerConsumptionSensor(const PowerConsumptionSensorClass& sensorClass
                        uint32_t outer) {
     PutThresholdSensorProperties(instance, object, sensorClass.className, inner, outer);
   };
-  return GetByCursor(probe::kCurrentType, TextKey::kByVariant, classDefinition, keys, sink, put);
+  return GetByCursor(probe::kCurrentType, {TextKey::kByVariant, ScanDecimal}, classDefinition, keys,
+                     sink, put);
 }
 
 ObjectPath AssociatedSupplyPath(const PathComputerName& computerName, const OLECHAR* supplyName) {

@@ -72,6 +72,8 @@ HRESULT GetRedundancyGroup(const RedundancyGroupClass& groupClass,
                            IWbemObjectSink* sink) {
   const PathKey key = FindTextKey(keys, property::kName, TextKey::kByVariant);
   if (!key.found) return key.status;
+  // The library has always been asked for the name, which no property of a group needs.
+  [[maybe_unused]] const PathComputerName computerName;
   const OidList chassis = ListChildren(layout::system::kRootOid, layout::chassis::kType);
   for (uint32_t c = 0; c < chassis.size(); ++c) {
     for (uint32_t position = 0; position < kPositionLimit; ++position) {

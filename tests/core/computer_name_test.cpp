@@ -42,7 +42,10 @@ TEST_F(ComputerNameTest, TheShortFormWidensCharacterByCharacter) {
 }
 
 TEST_F(ComputerNameTest, PathsCarryTheNameAsTheSupportLibraryConvertsIt) {
+  FakeStore store;
+  store.RecordCalls();
   EXPECT_EQ("RACK42-NODE0007", Printable(PathComputerName().text()));
+  EXPECT_EQ(std::vector<std::string>{"convert RACK42-NODE0007"}, store.Calls());
 }
 
 }  // namespace

@@ -68,7 +68,8 @@ int32_t SMUCS2Strcmp(const OLECHAR* a, const OLECHAR* b) {
 
 int32_t SMUTF8StrToUCS2Str(OLECHAR* destination, uint32_t* sizeInBytes, const char* source) {
   const OutsideCall call(Call::kLibrary);
-  if (call.Fails()) return 1;
+  FakeStore::Installed().NoteConversion(source);
+  if (call.Fails() || *sizeInBytes != 256) return 1;
   const int room = static_cast<int>(*sizeInBytes / sizeof(OLECHAR));
   return MultiByteToWideChar(CP_UTF8, 0, source, -1, destination, room) > 0 ? 0 : 1;
 }

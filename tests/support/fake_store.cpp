@@ -156,6 +156,10 @@ void FakeStore::FreeSupport(void* block) {
   blocks_.TakeBack("SMFreeMem", {BlockKind::kSupportMemory}, block);
 }
 
+void FakeStore::NoteConversion(const char* narrow) {
+  Note("convert ", narrow);
+}
+
 uint32_t FakeStore::CountRecords(uint32_t logOid) {
   Note("records ", logOid);
   const auto count = recordCounts_.find(logOid);

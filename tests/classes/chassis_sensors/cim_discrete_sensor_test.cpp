@@ -274,7 +274,7 @@ TEST_F(CimDiscreteSensorTest, GettingReadsTheOneObjectAndNoList) {
   ListDiscrete(2, 22, {220});
   store.RecordCalls();
   EXPECT_EQ(0, GetByOid(OLESTR("220")));
-  EXPECT_EQ((Texts{"object 220", "free"}), store.Calls());
+  EXPECT_EQ((Texts{"object 220", "convert 220", "free"}), store.Calls());
 }
 
 TEST_F(CimDiscreteSensorTest, ANumericProbeIsGotAsADiscreteSensor) {

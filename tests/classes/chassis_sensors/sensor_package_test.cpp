@@ -78,8 +78,8 @@ TEST_P(SensorPackageTest, ReadsNoObjectButTheDescription) {
   ListSensors(2, 2);
   store.RecordCalls();
   EXPECT_EQ(0, EnumerateClass());
-  EXPECT_EQ((Texts{"children 1/17", "children 2/32", "object 1002", "free", "free",
-                   "children 2/" + std::to_string(kType), "free", "free"}),
+  EXPECT_EQ((Texts{"convert RACK42-NODE0007", "children 1/17", "children 2/32", "object 1002",
+                   "free", "free", "children 2/" + std::to_string(kType), "free", "free"}),
             store.Calls());
 }
 

@@ -86,7 +86,8 @@ TEST_F(VornFanSensorTest, ReadsNoObject) {
   ListFans(2, 2);
   store.RecordCalls();
   EXPECT_EQ(0, EnumerateClass());
-  EXPECT_EQ((Texts{"children 1/17", "children 2/23", "free", "free"}), store.Calls());
+  EXPECT_EQ((Texts{"convert RACK42-NODE0007", "children 1/17", "children 2/23", "free", "free"}),
+            store.Calls());
 }
 
 TEST_F(VornFanSensorTest, EnumeratesNothingWithoutChassis) {

@@ -62,12 +62,12 @@ void CheckWithoutMemory(const Request&, const Answer& flawless, const Answer& an
 }
 
 TEST_F(AllocationFaultsTest, EveryClassSurvivesEachFailedAllocation) {
-  TellSurvived("failed allocations", FailEachAllocationOfAll(1, CheckOneFailed), 1500);
+  TellSurvived("failed allocations", FailEachAllocationOfAll(1, CheckOneFailed), 1400);
 }
 
 TEST_F(AllocationFaultsTest, EveryClassSurvivesMemoryThatHasRunOut) {
   TellSurvived("failures of all allocations from one on",
-               FailEachAllocationOfAll(FaultPlan::kAll, CheckWithoutMemory), 1500);
+               FailEachAllocationOfAll(FaultPlan::kAll, CheckWithoutMemory), 1400);
 }
 
 }  // namespace

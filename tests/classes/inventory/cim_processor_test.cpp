@@ -248,6 +248,7 @@ TEST_F(CimProcessorTest, AnEmptySocketIsNotGot) {
 TEST_F(CimProcessorTest, AnIndexBeyondTheSocketsIsSuccessWithNothing) {
   EXPECT_EQ(0, GetById(OLESTR("1")));
   EXPECT_EQ(0, GetById(OLESTR("-1")));
+  EXPECT_EQ(0, GetById(OLESTR("65536")));
   EXPECT_EQ(0u, definition.Spawns());
 }
 

@@ -45,9 +45,10 @@ TEST_F(CimPackagePowerSupplyTest, RefersToSuppliesByNumberWithoutReadingTheirNam
   AddSupply(201, u"PS2");
   store.RecordCalls();
   Enumerate("CIM_PackagePowerSupply");
-  EXPECT_EQ((std::vector<std::string>{"children 1/17", "children 100/32", "object 110", "free",
-                                      "free", "children 100/21", "free", "free"}),
-            store.Calls());
+  EXPECT_EQ(
+      (std::vector<std::string>{"convert RACK42-NODE0007", "children 1/17", "children 100/32",
+                                "object 110", "free", "free", "children 100/21", "free", "free"}),
+      store.Calls());
   EXPECT_EQ(Ends(kSupply0, kShelfA), Delivered(0));
 }
 

@@ -84,6 +84,14 @@ TEST_P(RedundancyGroupTest, MembersAreListedUnderTheGroupsOwnIdentifier) {
   EXPECT_EQ(0u, DeliveredCount());
 }
 
+TEST_P(RedundancyGroupTest, GettingHasTheComputerNameConvertedWithoutNeed) {
+  store.List(1, 17, {});
+  store.RecordCalls();
+  GetByName(OLESTR("Main"));
+  EXPECT_EQ((std::vector<std::string>{"convert RACK42-NODE0007", "children 1/17", "free"}),
+            store.Calls());
+}
+
 TEST_P(RedundancyGroupTest, WithoutChassisOrGroupsEnumerationIsSuccess) {
   store.List(2, 2, {});
   EXPECT_EQ(0, EnumerateGroups());

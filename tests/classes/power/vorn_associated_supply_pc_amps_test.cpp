@@ -54,24 +54,39 @@ TEST_F(VornAssociatedSupplyPcAmpsTest, TheSuppliesOfLaterChassisAreNotAssociated
   store.RecordCalls();
   EXPECT_EQ(0, Associate());
   EXPECT_EQ(1u, DeliveredCount());
-  EXPECT_EQ((std::vector<std::string>{"children 1/17", "children 100/21",
-                                      "object 200",    "free",
+  EXPECT_EQ((std::vector<std::string>{"convert RACK42-NODE0007",  //
+                                      "children 1/17",
+                                      "children 100/21",
+                                      "object 200",
+                                      "free",
                                       "free",  //
-                                      "children 1/17", "children 100/25",
-                                      "object 300",    "free",
-                                      "free",          "free",  //
-                                      "children 1/17", "children 100/25",
-                                      "object 301",    "free",
-                                      "free",          "free",  //
-                                      "children 1/17", "children 100/25",
-                                      "free",          "children 101/25",
+                                      "children 1/17",
+                                      "children 100/25",
+                                      "object 300",
+                                      "free",
+                                      "free",
+                                      "free",  //
+                                      "children 1/17",
+                                      "children 100/25",
+                                      "object 301",
+                                      "free",
+                                      "free",
+                                      "free",  //
+                                      "children 1/17",
+                                      "children 100/25",
+                                      "free",
+                                      "children 101/25",
                                       "object 310",  //
-                                      "free",          "free",
+                                      "free",
+                                      "free",
                                       "free",  //
-                                      "children 1/17", "children 101/25",
-                                      "free",          "free",
+                                      "children 1/17",
+                                      "children 101/25",
+                                      "free",
+                                      "free",
                                       "free",  //
-                                      "children 1/17", "free"}),
+                                      "children 1/17",
+                                      "free"}),
             store.Calls());
 }
 

@@ -30,7 +30,8 @@ TEST_F(VornAssociatedSystemPcDataTest, TheNameIsCopiedCharacterByCharacter) {
 TEST_F(VornAssociatedSystemPcDataTest, ReadsTheRecordsByPositionAndNoChassis) {
   store.RecordCalls();
   Associate();
-  EXPECT_EQ((std::vector<std::string>{"children 2/40", "object 500", "free", "free",  //
+  EXPECT_EQ((std::vector<std::string>{"convert RACK42-NODE0007",                      //
+                                      "children 2/40", "object 500", "free", "free",  //
                                       "children 2/40", "object 501", "free", "free",  //
                                       "children 2/40", "free"}),
             store.Calls());

@@ -53,16 +53,34 @@ TEST_F(VornPsRedundancyTest, NeitherPositionIsResetForTheNextGroupOrChassis) {
   store.List(2, 2, {400, 401});
   store.RecordCalls();
   Associate();
-  EXPECT_EQ(
-      (std::vector<std::string>{"children 1/17",                                                //
-                                "children 2/2",  "object 400", "free",                          //
-                                "children 2/21", "object 200", "free", "free",                  //
-                                "children 2/21", "object 201", "free", "free",                  //
-                                "children 2/21", "free",       "free",                          //
-                                "children 2/2",  "object 401", "free",                          //
-                                "children 2/21", "free",       "free", "children 2/2", "free",  //
-                                "children 2/2",  "free",       "free"}),
-      store.Calls());
+  EXPECT_EQ((std::vector<std::string>{"convert RACK42-NODE0007",
+                                      "children 1/17",  //
+                                      "children 2/2",
+                                      "object 400",
+                                      "free",  //
+                                      "children 2/21",
+                                      "object 200",
+                                      "free",
+                                      "free",  //
+                                      "children 2/21",
+                                      "object 201",
+                                      "free",
+                                      "free",  //
+                                      "children 2/21",
+                                      "free",
+                                      "free",  //
+                                      "children 2/2",
+                                      "object 401",
+                                      "free",  //
+                                      "children 2/21",
+                                      "free",
+                                      "free",
+                                      "children 2/2",
+                                      "free",  //
+                                      "children 2/2",
+                                      "free",
+                                      "free"}),
+            store.Calls());
 }
 
 TEST_F(VornPsRedundancyTest, PairsSuppliesThatAreNoMembersOfTheGroupToo) {
