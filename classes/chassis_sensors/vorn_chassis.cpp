@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "classes/chassis_sensors/chassis_rollups.h"
 #include "classes/chassis_sensors/handlers.h"
 #include "core/instance.h"

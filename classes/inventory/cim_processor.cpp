@@ -1,4 +1,5 @@
 #include <string>
+#include <utility>
 
 #include "classes/device_names.h"
 #include "classes/inventory/handlers.h"

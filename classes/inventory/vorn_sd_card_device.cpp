@@ -1,5 +1,6 @@
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "classes/inventory/handlers.h"
 #include "core/instance.h"
@@ -32,6 +33,7 @@ bool IsKnownSize(uint32_t freeSizeMb) {
   return freeSizeMb < card::kFreeSizeNone - 1;
 }
 
+/// The card goes back to the library before the instance is delivered.
 void PutCardProperties(Instance& instance, DataObject object, uint32_t index) {
   instance.Put(OLESTR("sdType"), Variant::Uint8(object[card::kCardType]));
   if (const auto certified = CertifiedOf(object[card::kCertified])) {

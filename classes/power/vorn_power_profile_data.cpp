@@ -50,8 +50,10 @@ HRESULT Vorn_PowerProfileData::EnumerateInstances(IWbemClassObject* classDefinit
   if (!object) return S_OK;
   Instance instance(classDefinition);
   if (!instance) return S_OK;
-  PutProfileProperties(instance, object, CustomProfiles(object));
+  const CustomProfiles profiles(object);
+  PutProfileProperties(instance, object, profiles);
   instance.Indicate(sink);
+  instance.Release();
   return S_OK;
 }
 
