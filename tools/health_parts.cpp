@@ -18,7 +18,6 @@ namespace {
 using host::ClassDefinition;
 using host::Instance;
 
-constexpr const char* kStatus = "Status";
 constexpr const char* kRedundancyStatus = "RedundancyStatus";
 
 /// Nothing for a state that can't be told.

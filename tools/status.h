@@ -1,4 +1,4 @@
-/// The words of CIM_ManagedSystemElement.Status.
+/// CIM_ManagedSystemElement.Status and its words.
 #pragma once
 
 #include <algorithm>
@@ -7,6 +7,8 @@
 #include <string_view>
 
 namespace tqcim::tools {
+
+inline constexpr std::string_view kStatus = "Status";
 
 /// The worse a status, the higher its rank; a text that isn't one of the words ranks above all.
 inline size_t StatusRank(std::string_view status) {

@@ -5,6 +5,7 @@
 
 #include "tools/formats.h"
 #include "tools/reference.h"
+#include "tools/status.h"
 #include "tools/text.h"
 
 namespace tqcim::tools {
@@ -12,8 +13,6 @@ namespace {
 
 /// Properties by their position in the class.
 using Positions = std::vector<size_t>;
-
-constexpr std::string_view kStatusName = "Status";
 
 const host::Value& ValueOf(const host::Instance& instance, size_t position) {
   return instance.properties[position].value;
@@ -39,7 +38,7 @@ Positions PutInOrder(Positions positions, const host::ClassDefinition& definitio
   const auto rank = [&definition](size_t position) {
     const host::PropertyDefinition& property = *definition.properties[position];
     if (property.key) return 0;
-    if (property.name == kStatusName) return 1;
+    if (property.name == kStatus) return 1;
     if (property.name == "Name") return 2;
     return property.origin == definition.name ? 3 : 4;
   };
@@ -67,7 +66,7 @@ Columns ChooseColumns(const Listing& listing) {
   for (const size_t position : AllPositions(*listing.definition)) {
     const host::PropertyDefinition& property = *listing.definition->properties[position];
     const bool status =
-        property.name == kStatusName && !host::IsNull(ValueOf(listing.instances.front(), position));
+        property.name == kStatus && !host::IsNull(ValueOf(listing.instances.front(), position));
     if (!status && !Differs(listing, position)) {
       columns.common.push_back(position);
       continue;
@@ -116,7 +115,7 @@ std::string PropertyLines(const host::Instance& instance, const Positions& posit
     if (host::IsNull(ValueOf(instance, i))) continue;
     std::string value = Wrapped(CellText(ValueOf(instance, i), property, ReadableTextWithUnits),
                                 indent, layout.width);
-    if (layout.colour && property.name == kStatusName) value = Coloured(value, value);
+    if (layout.colour && property.name == kStatus) value = Coloured(value, value);
     std::string line = "  " + property.name;
     if (!value.empty()) line.append(indent - line.size(), ' ');
     text += line + value + "\n";

@@ -1,21 +1,13 @@
+#include "tests/platform/text_conversion_test.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
 #include <string_view>
 
-#include "platform/wmi.h"
-
 namespace {
 
-using Text = std::basic_string<OLECHAR>;
 using TextView = std::basic_string_view<OLECHAR>;
-
-Text Widen(UINT codePage, std::string_view narrow) {
-  OLECHAR wide[64];
-  const int length =
-      MultiByteToWideChar(codePage, 0, narrow.data(), static_cast<int>(narrow.size()), wide, 64);
-  return Text(wide, static_cast<size_t>(length));
-}
 
 std::string Narrow(UINT codePage, TextView wide) {
   char narrow[64];
@@ -80,7 +72,7 @@ TEST(TextConversion, TheAnsiCodePageHoldsAscii) {
 TEST(TextConversion, WithoutALengthTheTerminatorIsConvertedToo) {
   OLECHAR wide[8];
   EXPECT_EQ(4, MultiByteToWideChar(CP_UTF8, 0, "fan", -1, wide, 8));
-  EXPECT_EQ(OLESTR("fan"), Text(wide));
+  EXPECT_EQ(OLESTR("fan"), std::basic_string<OLECHAR>(wide));
   char narrow[8];
   EXPECT_EQ(4, WideCharToMultiByte(CP_UTF8, 0, OLESTR("fan"), -1, narrow, 8, nullptr, nullptr));
   EXPECT_STREQ("fan", narrow);

@@ -48,42 +48,18 @@ TEST_F(HandlerSinksTest, ASinkMayKeepEveryInstance) {
          });
 }
 
-/// A sink that does as the test says with each instance.
-class ActingSink final : public ComFake<IWbemObjectSink, IID_IWbemObjectSink> {
- public:
-  explicit ActingSink(std::function<void()> act) : ComFake("a sink"), act_(std::move(act)) {}
-
-  HRESULT STDMETHODCALLTYPE Indicate(LONG, IWbemClassObject**) override {
-    const OutsideCall call;
-    ++delivered_;
-    act_();
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE SetStatus(LONG, HRESULT, BSTR, IWbemClassObject*) override {
-    ++statusCalls_;
-    return S_OK;
-  }
-
-  size_t Delivered() const { return delivered_; }
-  size_t StatusCalls() const { return statusCalls_; }
-
- private:
-  std::function<void()> act_;
-  size_t delivered_ = 0;
-  size_t statusCalls_ = 0;
-};
-
 class ActingSinksTest : public ProviderFaultsTest {
  protected:
   /// Every request, to a sink that acts at each instance. It gets what a quick sink gets.
   void AskAllWith(const std::function<void()>& act) {
     for (const Request& request : AllRequests()) {
       SCOPED_TRACE(request.Name());
-      ActingSink acting(act);
+      FakeSink acting;
+      acting.AtIndicate(act);
       const Answer answer = AskProvider(request, acting);
-      EXPECT_EQ(request.Expected().instances, acting.Delivered());
+      EXPECT_EQ(request.Expected().instances, acting.Delivered().size());
       EXPECT_EQ(S_OK, answer.result);
-      EXPECT_EQ(1u, acting.StatusCalls());
+      EXPECT_EQ(1u, acting.StatusCalls().size());
     }
   }
 

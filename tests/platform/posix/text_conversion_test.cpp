@@ -5,18 +5,12 @@
 #include <string_view>
 
 #include "platform/wmi.h"
+#include "tests/platform/text_conversion_test.h"
 
 namespace {
 
-std::u16string WideOf(UINT codePage, std::string_view narrow) {
-  OLECHAR wide[64];
-  const int length =
-      MultiByteToWideChar(codePage, 0, narrow.data(), static_cast<int>(narrow.size()), wide, 64);
-  return std::u16string(wide, static_cast<size_t>(length));
-}
-
 TEST(TextConversion, TheAnsiCodePageIsUtf8) {
-  EXPECT_EQ(u"\u00E9\U0001F600", WideOf(CP_ACP, "\xC3\xA9\xF0\x9F\x98\x80"));
+  EXPECT_EQ(u"\u00E9\U0001F600", Widen(CP_ACP, "\xC3\xA9\xF0\x9F\x98\x80"));
   char narrow[8];
   EXPECT_EQ(6, WideCharToMultiByte(CP_ACP, 0, u"\u00E9\U0001F600", 3, narrow, 8, nullptr, nullptr));
   EXPECT_EQ("\xC3\xA9\xF0\x9F\x98\x80", std::string_view(narrow, 6));
@@ -25,18 +19,18 @@ TEST(TextConversion, TheAnsiCodePageIsUtf8) {
 // Unicode 15.0, section 3.9, tables 3-8 to 3-11.
 TEST(TextConversion, EachMaximalSubpartIsReplacedOnce) {
   EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFDA",
-            WideOf(CP_UTF8, "\xC0\xAF\xE0\x80\xBF\xF0\x81\x82\x41"));
+            Widen(CP_UTF8, "\xC0\xAF\xE0\x80\xBF\xF0\x81\x82\x41"));
   EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD\uFFFDA",
-            WideOf(CP_UTF8, "\xED\xA0\x80\xED\xBF\xBF\xED\xAF\x41"));
+            Widen(CP_UTF8, "\xED\xA0\x80\xED\xBF\xBF\xED\xAF\x41"));
   EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFDA\uFFFD\uFFFDB",
-            WideOf(CP_UTF8, "\xF4\x91\x92\x93\xFF\x41\x80\xBF\x42"));
-  EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD\uFFFDA", WideOf(CP_UTF8, "\xE1\x80\xE2\xF0\x91\x92\xF1\xBF\x41"));
+            Widen(CP_UTF8, "\xF4\x91\x92\x93\xFF\x41\x80\xBF\x42"));
+  EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD\uFFFDA", Widen(CP_UTF8, "\xE1\x80\xE2\xF0\x91\x92\xF1\xBF\x41"));
 }
 
 TEST(TextConversion, ATextThatEndsTooSoonIsReplaced) {
-  EXPECT_EQ(u"\uFFFD", WideOf(CP_UTF8, "\xE2\x82"));
-  EXPECT_EQ(u"\uFFFD", WideOf(CP_UTF8, "\xF0\x9F\x98"));
-  EXPECT_EQ(u"\uFFFD", WideOf(CP_UTF8, "\xC3"));
+  EXPECT_EQ(u"\uFFFD", Widen(CP_UTF8, "\xE2\x82"));
+  EXPECT_EQ(u"\uFFFD", Widen(CP_UTF8, "\xF0\x9F\x98"));
+  EXPECT_EQ(u"\uFFFD", Widen(CP_UTF8, "\xC3"));
 }
 
 TEST(TextConversion, HalfACharacterIsTooLittleRoom) {

@@ -4,7 +4,7 @@
 extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions() {
   return "leak:MakeHandler<tqcim::VORN_FanRedundancyGroup>\n"
          "leak:tqcim::Vorn_BIOSSettings::EnumerateInstances\n"
-         "leak:DllGetClassObject\n";
+         "leak:StringFromCLSID\n";
 }
 
 // Programs whose standard error is tested don't list there what was expected.
