@@ -2,7 +2,6 @@
 // refused in one sentence with line and column.
 
 #include "fuzz/check.h"
-#include "host/mof_lexer.h"
 #include "host/schema.h"
 
 using namespace tqcim;
@@ -11,15 +10,14 @@ namespace {
 
 void CheckClass(const host::Schema& schema, const host::ClassDefinition& definition) {
   fuzz::Check(schema.Find(definition.name) == &definition, "a class is found by its name");
-  for (const auto& property : definition.properties) {
-    fuzz::Check(definition.Find(property->name) == property.get(),
-                "a property is found by its name");
+  for (const host::PropertyDefinition* property : definition.properties) {
+    fuzz::Check(definition.Find(property->name) == property, "a property is found by its name");
     fuzz::Check(schema.Find(property->origin) != nullptr, "a property comes from a class");
   }
   if (definition.superclass.empty()) return;
   const host::ClassDefinition* superclass = schema.Find(definition.superclass);
   fuzz::Check(superclass != nullptr, "a superclass is there");
-  for (const auto& property : superclass->properties) {
+  for (const host::PropertyDefinition* property : superclass->properties) {
     const host::PropertyDefinition* inherited = definition.Find(property->name);
     fuzz::Check(inherited != nullptr && inherited->type == property->type &&
                     inherited->array == property->array && inherited->origin == property->origin,
@@ -30,7 +28,7 @@ void CheckClass(const host::Schema& schema, const host::ClassDefinition& definit
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-  const host::Schema::Source source{"f.mof", fuzz::TextOf(data, size)};
+  const host::MofSource source{"f.mof", fuzz::TextOf(data, size)};
   try {
     const host::Schema schema = host::Schema::FromSources({&source, 1});
     for (const host::ClassDefinition& definition : schema.Classes()) {

@@ -1,8 +1,8 @@
 #include "host/class_builder.h"
 
 #include <algorithm>
-#include <map>
 #include <optional>
+#include <utility>
 
 #include "host/cim_type.h"
 #include "host/text.h"
@@ -12,29 +12,16 @@ namespace {
 
 bool QualifierIsSet(const std::vector<Qualifier>& qualifiers, std::string_view name) {
   const Qualifier* qualifier = FindQualifier(qualifiers, name);
-  const auto* set = qualifier ? std::get_if<bool>(&qualifier->value) : nullptr;
-  return set && *set;
-}
-
-PropertyDefinition OwnProperty(ParsedProperty parsed, const std::string& class_name) {
-  PropertyDefinition property;
-  property.name = parsed.name;
-  property.type = parsed.type;
-  property.array = parsed.array;
-  property.key = QualifierIsSet(parsed.qualifiers, "Key");
-  property.reference_class = parsed.reference_class;
-  property.origin = class_name;
-  property.default_value = std::move(parsed.default_value);
-  property.qualifiers = std::move(parsed.qualifiers);
-  return property;
+  return qualifier && qualifier->value() == Value(true);
 }
 
 /// A property that a subclass declares again: its type and its origin stay, the rest may change.
-PropertyDefinition Overridden(const PropertyDefinition& inherited, PropertyDefinition own,
-                              const MofPlace& place) {
+void Override(const PropertyDefinition& inherited, PropertyDefinition& own,
+              const MofSource& source) {
   if (own.type != inherited.type || own.array != inherited.array) {
-    throw MofError(place, "property " + own.name + " is inherited as " + inherited.TypeText() +
-                              " and cannot become " + own.TypeText());
+    throw MofError(source, own.name,
+                   "property " + std::string(own.name) + " is inherited as " +
+                       inherited.TypeText() + " and cannot become " + own.TypeText());
   }
   own.key = own.key || inherited.key;
   own.origin = inherited.origin;
@@ -42,29 +29,54 @@ PropertyDefinition Overridden(const PropertyDefinition& inherited, PropertyDefin
   for (const Qualifier& qualifier : inherited.qualifiers) {
     if (!FindQualifier(own.qualifiers, qualifier.name)) own.qualifiers.push_back(qualifier);
   }
-  return own;
 }
 
 bool HasKey(const ClassDefinition& definition) {
   return std::any_of(definition.properties.begin(), definition.properties.end(),
-                     [](const auto& property) { return property->key; });
+                     [](const auto* property) { return property->key; });
 }
 
-/// The property as the class now has it, of whose properties the first so many are inherited.
-const PropertyDefinition& AddProperty(ClassDefinition& definition, ParsedProperty parsed,
-                                      size_t inherited) {
-  const MofPlace place = parsed.place;
-  PropertyDefinition own = OwnProperty(std::move(parsed), definition.name);
+/// Puts the property beside those that are inherited, or in the place of one of them, which it
+/// gives then.
+const PropertyDefinition* AddProperty(ClassDefinition& definition, PropertyDefinition& own,
+                                      size_t inherited_count, const MofSource& source) {
+  own.key = QualifierIsSet(own.qualifiers, "Key");
+  own.origin = definition.name;
   auto& properties = definition.properties;
-  const auto end = properties.begin() + static_cast<std::ptrdiff_t>(inherited);
-  const auto found = std::find_if(properties.begin(), end, [&](const auto& property) {
+  const auto end = properties.begin() + static_cast<std::ptrdiff_t>(inherited_count);
+  const auto found = std::find_if(properties.begin(), end, [&](const auto* property) {
     return EqualNames(property->name, own.name);
   });
   if (found == end) {
-    return *properties.emplace_back(std::make_shared<const PropertyDefinition>(std::move(own)));
+    properties.push_back(&own);
+    return nullptr;
   }
-  *found = std::make_shared<const PropertyDefinition>(Overridden(**found, std::move(own), place));
-  return **found;
+  Override(**found, own, source);
+  return std::exchange(*found, &own);
+}
+
+void AddProperties(ClassDefinition& definition, const ClassDefinition* superclass,
+                   const MofSource& source) {
+  const size_t inherited_count = definition.properties.size();
+  definition.properties.reserve(inherited_count + definition.declared.size());
+  const bool keys_are_fixed = superclass && HasKey(*superclass);
+  for (PropertyDefinition& property : definition.declared) {
+    const PropertyDefinition* inherited =
+        AddProperty(definition, property, inherited_count, source);
+    if (!property.key) continue;
+    if (property.array || property.type == CimType::kReal32 || property.type == CimType::kReal64) {
+      throw MofError(source, property.name, "an array or a real number cannot be a key");
+    }
+    if (keys_are_fixed && !(inherited && inherited->key)) {
+      throw MofError(source, property.name,
+                     "class " + std::string(definition.name) +
+                         " inherits its keys and cannot add " + std::string(property.name));
+    }
+    if (definition.singleton) {
+      throw MofError(source, property.name,
+                     "class " + std::string(definition.name) + " is a singleton and has no keys");
+    }
+  }
 }
 
 ClassDefinition Build(ParsedClass parsed, const ClassDefinition* superclass) {
@@ -75,32 +87,14 @@ ClassDefinition Build(ParsedClass parsed, const ClassDefinition* superclass) {
   definition.association = QualifierIsSet(parsed.qualifiers, "Association");
   definition.singleton = QualifierIsSet(parsed.qualifiers, "Singleton");
   definition.qualifiers = std::move(parsed.qualifiers);
+  definition.declared = std::move(parsed.properties);
   if (superclass) {
     definition.superclass = superclass->name;
     definition.association = definition.association || superclass->association;
     definition.singleton = definition.singleton || superclass->singleton;
     definition.properties = superclass->properties;
   }
-  const size_t inherited_count = definition.properties.size();
-  definition.properties.reserve(inherited_count + parsed.properties.size());
-  const bool keys_are_fixed = superclass && HasKey(*superclass);
-  for (ParsedProperty& parsed_property : parsed.properties) {
-    const MofPlace place = parsed_property.place;
-    const PropertyDefinition& property =
-        AddProperty(definition, std::move(parsed_property), inherited_count);
-    if (!property.key) continue;
-    if (property.array || property.type == CimType::kReal32 || property.type == CimType::kReal64) {
-      throw MofError(place, "an array or a real number cannot be a key");
-    }
-    const PropertyDefinition* inherited = superclass ? superclass->Find(property.name) : nullptr;
-    if (keys_are_fixed && !(inherited && inherited->key)) {
-      throw MofError(
-          place, "class " + definition.name + " inherits its keys and cannot add " + property.name);
-    }
-    if (definition.singleton) {
-      throw MofError(place, "class " + definition.name + " is a singleton and has no keys");
-    }
-  }
+  AddProperties(definition, superclass, *parsed.source);
   return definition;
 }
 
@@ -108,70 +102,75 @@ ClassDefinition Build(ParsedClass parsed, const ClassDefinition* superclass) {
 class Builder {
  public:
   explicit Builder(std::vector<ParsedClass> parsed)
-      : parsed_(std::move(parsed)), built_(parsed_.size()) {
+      : parsed_(std::move(parsed)), is_built_(parsed_.size()) {
+    built_.classes.resize(parsed_.size());
     for (size_t i = 0; i < parsed_.size(); ++i) {
-      if (!by_name_.emplace(parsed_[i].name, i).second) {
-        throw MofError(parsed_[i].place, "class " + std::string(parsed_[i].name) + " stands twice");
+      const std::string_view name = parsed_[i].name;
+      if (!built_.by_name.emplace(name, i).second) {
+        throw MofError(*parsed_[i].source, name, "class " + std::string(name) + " stands twice");
       }
     }
   }
 
-  std::vector<ClassDefinition> BuildAll() {
+  BuiltClasses BuildAll() {
     for (size_t i = 0; i < parsed_.size(); ++i) BuildWithSuperclasses(i);
-    std::vector<ClassDefinition> classes;
-    for (auto& definition : built_) classes.push_back(std::move(*definition));
-    return classes;
+    return std::move(built_);
   }
 
  private:
   void BuildWithSuperclasses(size_t index) {
     std::vector<size_t> chain;
-    for (std::optional<size_t> next = index; next && !built_[*next]; next = Superclass(*next)) {
+    for (std::optional<size_t> next = index; next && !is_built_[*next]; next = Superclass(*next)) {
       if (std::find(chain.begin(), chain.end(), *next) != chain.end()) {
-        throw MofError(parsed_[*next].superclass_place,
-                       "class " + std::string(parsed_[*next].name) + " is its own superclass");
+        const ParsedClass& parsed = parsed_[*next];
+        throw MofError(*parsed.source, parsed.superclass,
+                       "class " + std::string(parsed.name) + " is its own superclass");
       }
       chain.push_back(*next);
     }
     std::reverse(chain.begin(), chain.end());
     for (const size_t next : chain) {
       const auto superclass = Superclass(next);
-      built_[next] = Build(std::move(parsed_[next]), superclass ? &*built_[*superclass] : nullptr);
+      built_.classes[next] =
+          Build(std::move(parsed_[next]), superclass ? &built_.classes[*superclass] : nullptr);
+      is_built_[next] = true;
     }
   }
 
   std::optional<size_t> Superclass(size_t index) const {
     const ParsedClass& parsed = parsed_[index];
     if (parsed.superclass.empty()) return std::nullopt;
-    const auto found = by_name_.find(parsed.superclass);
-    if (found == by_name_.end()) {
-      throw MofError(parsed.superclass_place,
+    const auto found = built_.by_name.find(parsed.superclass);
+    if (found == built_.by_name.end()) {
+      throw MofError(*parsed.source, parsed.superclass,
                      "there is no class " + std::string(parsed.superclass));
     }
     return found->second;
   }
 
   std::vector<ParsedClass> parsed_;  // without its properties once it is built
-  std::vector<std::optional<ClassDefinition>> built_;
-  std::map<std::string_view, size_t, NameOrder> by_name_;
+  std::vector<bool> is_built_;
+  BuiltClasses built_;
 };
 
-Value CheckedValue(const ParsedAssignment& assignment, const ClassDefinition& definition) {
-  const PropertyDefinition* property = definition.Find(assignment.property);
+Value CheckedValue(const MofSource& source, std::string_view name, const Value& value,
+                   const ClassDefinition& definition) {
+  const PropertyDefinition* property = definition.Find(name);
   if (!property) {
-    throw MofError(assignment.place, "class " + definition.name + " has no property " +
-                                         std::string(assignment.property));
+    throw MofError(
+        source, name,
+        "class " + std::string(definition.name) + " has no property " + std::string(name));
   }
-  const auto value = ConvertToType(assignment.value, property->type, property->array);
-  if (!value) {
-    throw MofError(assignment.place, "the value is not of the type of " + property->name);
+  const auto converted = ConvertToType(value, property->type, property->array);
+  if (!converted) {
+    throw MofError(source, name, "the value is not of the type of " + std::string(property->name));
   }
-  return *value;
+  return *converted;
 }
 
 }  // namespace
 
-std::vector<ClassDefinition> BuildClasses(std::vector<ParsedClass> parsed) {
+BuiltClasses BuildClasses(std::vector<ParsedClass> parsed) {
   return Builder(std::move(parsed)).BuildAll();
 }
 
@@ -179,15 +178,16 @@ std::vector<DeclaredInstance> BuildInstances(const std::vector<ParsedInstance>& 
                                              const Schema& schema) {
   std::vector<DeclaredInstance> instances;
   for (const ParsedInstance& declaration : parsed) {
-    const ClassDefinition* definition = schema.Find(declaration.class_name);
-    if (!definition && !declaration.class_name.starts_with("__")) {
-      throw MofError(declaration.place, "there is no class " + std::string(declaration.class_name));
+    const std::string_view class_name = declaration.class_name;
+    const ClassDefinition* definition = schema.Find(class_name);
+    if (!definition && !class_name.starts_with("__")) {
+      throw MofError(*declaration.source, class_name,
+                     "there is no class " + std::string(class_name));
     }
-    DeclaredInstance instance{std::string(declaration.class_name), {}};
-    for (const ParsedAssignment& assignment : declaration.assignments) {
+    DeclaredInstance instance{class_name, {}};
+    for (const auto& [name, value] : declaration.assignments) {
       instance.properties.emplace_back(
-          assignment.property,
-          definition ? CheckedValue(assignment, *definition) : assignment.value);
+          name, definition ? CheckedValue(*declaration.source, name, value, *definition) : value);
     }
     instances.push_back(std::move(instance));
   }

@@ -8,11 +8,16 @@
 
 namespace tqcim::host {
 
+struct BuiltClasses {
+  std::vector<ClassDefinition> classes;
+  ClassIndex by_name;
+};
+
 /// The classes in the order given, each with what it inherits. Throws MofError for a class that
 /// stands twice, a superclass that is missing or goes in a circle, a property declared anew with
 /// another type, a key added below a class that has keys, a key in a singleton, a key that is an
 /// array or a real number.
-std::vector<ClassDefinition> BuildClasses(std::vector<ParsedClass> parsed);
+BuiltClasses BuildClasses(std::vector<ParsedClass> parsed);
 
 /// Instances of the platform's own classes ("__...") are taken as they are; those of the schema's
 /// classes have to fit them. Throws MofError.

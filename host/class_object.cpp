@@ -21,8 +21,8 @@ bool IsSystemName(std::string_view name) {
   return name.starts_with("__");
 }
 
-OwnedVariant TextOrNull(const std::string& text) {
-  return ToVariant(text.empty() ? Value{} : Value{text}, CimType::kString, false);
+OwnedVariant TextOrNull(std::string_view text) {
+  return ToVariant(text.empty() ? Value{} : Value{std::string(text)}, CimType::kString, false);
 }
 
 OwnedVariant Number(int64_t number) {
@@ -112,11 +112,11 @@ Instance ClassObject::ToInstance() const {
   instance.put_order.reserve(put_order_.size());
   for (size_t i = 0; i < values_.size(); ++i) {
     const PropertyDefinition& property = *definition_.properties[i];
-    instance.properties.push_back(
-        {property.name, property.type, property.array, property.key, put_[i], PropertyValue(i)});
+    instance.properties.push_back({std::string(property.name), property.type, property.array,
+                                   property.key, put_[i], PropertyValue(i)});
   }
   for (const size_t index : put_order_) {
-    instance.put_order.push_back(definition_.properties[index]->name);
+    instance.put_order.emplace_back(definition_.properties[index]->name);
   }
   return instance;
 }
@@ -130,7 +130,7 @@ std::string ClassObject::RelativePath() const {
     if (!definition_.properties[i]->key) continue;
     const auto value = ToScalar(PropertyValue(i));
     if (!value) return {};
-    path.keys.push_back({definition_.properties[i]->name, *value});
+    path.keys.push_back({std::string(definition_.properties[i]->name), *value});
   }
   return path.NamesInstance() ? RelativeText(path) : std::string();
 }
@@ -194,8 +194,8 @@ std::vector<std::string> ClassObject::Names(LONG flags) const {
       !(flags & (WBEM_FLAG_KEYS_ONLY | WBEM_FLAG_REFS_ONLY))) {
     names.assign(kSystemProperties.begin(), kSystemProperties.end());
   }
-  for (const auto& property : definition_.properties) {
-    if (IsWanted(*property, definition_, flags)) names.push_back(property->name);
+  for (const PropertyDefinition* property : definition_.properties) {
+    if (IsWanted(*property, definition_, flags)) names.emplace_back(property->name);
   }
   return names;
 }

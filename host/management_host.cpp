@@ -102,7 +102,7 @@ std::unique_ptr<ManagementHost> ManagementHost::Open(const HostOptions& options)
 std::vector<std::string> ManagementHost::ClassNames() const {
   std::vector<std::string> names;
   for (const ClassDefinition& definition : schema().Classes()) {
-    if (!definition.provider.empty()) names.push_back(definition.name);
+    if (!definition.provider.empty()) names.emplace_back(definition.name);
   }
   return names;
 }

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
+#include <optional>
+#include <utility>
 
 #include "host/text.h"
 
@@ -12,26 +15,40 @@ namespace {
 /// The longest name that the platform takes. Errors quote words in full.
 constexpr size_t kLongestWord = 255;
 
+/// What a byte can begin, or go on with.
+enum class Sort : uint8_t { kNone, kBlank, kLetter, kDigit, kSign, kPunctuation, kQuote, kComment };
+
+constexpr auto kSorts = [] {
+  constexpr std::pair<std::string_view, Sort> kMembers[] = {
+      {" \t\r\n", Sort::kBlank},
+      {"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_", Sort::kLetter},
+      {"0123456789", Sort::kDigit},
+      {"+-.", Sort::kSign},
+      {"[]{}():;,=#$", Sort::kPunctuation},
+      {"\"'", Sort::kQuote},
+      {"/", Sort::kComment}};
+  std::array<Sort, 256> sorts{};
+  for (const auto& [members, sort] : kMembers) {
+    for (const char c : members) sorts[static_cast<unsigned char>(c)] = sort;
+  }
+  return sorts;
+}();
+
+Sort SortOf(char c) {
+  return kSorts[static_cast<unsigned char>(c)];
+}
+bool IsWordCharacter(char c) {
+  return SortOf(c) == Sort::kLetter || SortOf(c) == Sort::kDigit;
+}
 bool IsHexDigit(char c) {
   return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
-bool IsIdentifierStart(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
-}
 
-/// By byte, whether it goes on with an identifier: nearly all tokens are identifiers.
-constexpr auto kGoesOn = [] {
-  std::array<bool, 256> goes_on{};
-  for (const char c : std::string_view("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_"
-                                       "0123456789")) {
-    goes_on[static_cast<unsigned char>(c)] = true;
-  }
-  return goes_on;
-}();
+constexpr std::string_view kEscapes = "btnfr\"'\\";
+constexpr std::string_view kEscaped = "\b\t\n\f\r\"'\\";
 
-/// The value of a number's digits: decimal, 0x... hexadecimal, 0... octal, ...b binary. Nothing if
-/// they are not a number, or too large for 64 bits.
-bool ReadInteger(std::string_view digits, bool negative, MofToken& token) {
+/// Nothing for digits that are not a number, or one too large for 64 bits.
+std::optional<Scalar> IntegerOf(std::string_view digits, bool negative) {
   int base = 10;
   if (digits.size() > 2 && digits[0] == '0' && (digits[1] == 'x' || digits[1] == 'X')) {
     digits.remove_prefix(2);
@@ -45,34 +62,30 @@ bool ReadInteger(std::string_view digits, bool negative, MofToken& token) {
   uint64_t magnitude = 0;
   const auto [end, error] =
       std::from_chars(digits.data(), digits.data() + digits.size(), magnitude, base);
-  if (error != std::errc() || end != digits.data() + digits.size()) return false;
+  if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
   constexpr uint64_t kLargest = INT64_MAX;
-  if (negative) {
-    if (magnitude > kLargest + 1) return false;
-    token.number = static_cast<int64_t>(0 - magnitude);
-  } else if (magnitude > kLargest) {
-    token.number = magnitude;
-  } else {
-    token.number = static_cast<int64_t>(magnitude);
-  }
-  return true;
+  if (!negative && magnitude > kLargest) return magnitude;
+  if (magnitude > kLargest + 1) return std::nullopt;
+  return static_cast<int64_t>(negative ? 0 - magnitude : magnitude);
 }
 
-void RequireLength(std::string_view word, const MofPlace& place) {
-  if (word.size() <= kLongestWord) return;
-  throw MofError(place, "a word of more than " + std::to_string(kLongestWord) + " characters");
+std::optional<Scalar> RealOf(std::string_view digits, bool negative) {
+  double value = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
+  return negative ? -value : value;
 }
 
-std::string AsUtf8(char32_t character) {
-  const auto unit = static_cast<OLECHAR>(character);
-  return ToUtf8(WideView(&unit, 1));
+/// The value of a number: decimal, 0x... hexadecimal, 0... octal, ...b binary, real with a point.
+/// Nothing if it is none, or too large.
+std::optional<Scalar> NumberOf(std::string_view text) {
+  const bool negative = text.starts_with('-');
+  const std::string_view digits = text.substr(negative || text.starts_with('+') ? 1 : 0);
+  return digits.find('.') == std::string_view::npos ? IntegerOf(digits, negative)
+                                                    : RealOf(digits, negative);
 }
 
 }  // namespace
-
-MofError::MofError(const MofPlace& place, const std::string& reason)
-    : std::runtime_error(*place.file + ":" + std::to_string(place.line) + ":" +
-                         std::to_string(place.column) + ": " + reason) {}
 
 bool MofToken::IsWord(std::string_view keyword) const {
   return kind == Kind::kIdentifier && EqualNames(text, keyword);
@@ -96,19 +109,27 @@ std::string MofToken::Describe() const {
   return "the end of the text";
 }
 
-MofLexer::MofLexer(const std::string& file, std::string_view text) : file_(&file), text_(text) {
-  if (text_.starts_with("\xEF\xBB\xBF")) text_.remove_prefix(3);
+Scalar LiteralOf(const MofToken& token) {
+  if (token.kind == MofToken::Kind::kInteger || token.kind == MofToken::Kind::kReal) {
+    return *NumberOf(token.text);
+  }
+  const MofSource source{{}, token.text};
+  MofLexer lexer(source);
+  std::string meaning;
+  if (token.kind == MofToken::Kind::kText) {
+    lexer.JoinedTexts(&meaning);
+    return meaning;
+  }
+  lexer.QuotedText('\'', &meaning);
+  return static_cast<int64_t>(ToWide(meaning)[0]);
 }
 
 void MofLexer::SkipBlanks() {
   for (; !AtEnd(); ++position_) {
-    const char c = text_[position_];
-    if (c == '\n') {
-      ++line_;
-      line_start_ = position_ + 1;
-    } else if (c == '/' && (Peek(1) == '/' || Peek(1) == '*')) {
+    const Sort sort = SortOf(text_[position_]);
+    if (sort == Sort::kComment && (Peek(1) == '/' || Peek(1) == '*')) {
       SkipComment();
-    } else if (c != ' ' && c != '\t' && c != '\r') {
+    } else if (sort != Sort::kBlank) {
       return;
     }
   }
@@ -120,91 +141,91 @@ void MofLexer::SkipComment() {
   const size_t end = text_.find(to_line_end ? "\n" : "*/", position_ + 2);
   if (to_line_end) {
     position_ = std::min(end, text_.size()) - 1;
-    return;
-  }
-  if (end == std::string_view::npos) throw MofError(Place(), "the comment is not closed");
-  for (; position_ <= end; ++position_) {
-    if (text_[position_] != '\n') continue;
-    ++line_;
-    line_start_ = position_ + 1;
+  } else if (end == std::string_view::npos) {
+    Refuse(position_, "the comment is not closed");
+  } else {
+    position_ = end + 1;
   }
 }
 
 MofToken MofLexer::Next() {
   SkipBlanks();
-  MofToken token;
-  token.place = Place();
-  if (AtEnd()) return token;
-  const char c = Peek();
-  if (IsIdentifierStart(c)) {
-    Identifier(token);
-  } else if (c == '"') {
-    token.kind = MofToken::Kind::kText;
-    token.text = JoinedTexts();
-  } else if (std::string_view("[]{}():;,=#$").find(c) != std::string_view::npos) {
-    token.kind = MofToken::Kind::kPunctuation;
-    token.text = text_.substr(position_++, 1);
-  } else if (IsDigit(c) || ((c == '+' || c == '-' || c == '.') && IsDigit(Peek(1)))) {
-    Number(token);
-  } else if (c == '\'') {
-    Character(token);
-  } else {
-    throw MofError(token.place, "a character that MOF has no use for");
-  }
-  return token;
-}
-
-void MofLexer::Identifier(MofToken& token) {
-  token.kind = MofToken::Kind::kIdentifier;
   const size_t start = position_;
-  while (!AtEnd() && kGoesOn[static_cast<unsigned char>(text_[position_])]) ++position_;
-  token.text = Since(start);
-  RequireLength(token.text, token.place);
+  const MofToken::Kind kind = Pass();
+  return {kind, Since(start)};
 }
 
-void MofLexer::Character(MofToken& token) {
-  token.kind = MofToken::Kind::kCharacter;
-  const WideText characters = ToWide(QuotedText('\''));
-  if (characters.size() != 1) {
-    throw MofError(token.place, "between single quotes stands one character");
+MofToken::Kind MofLexer::Pass() {
+  if (AtEnd()) return MofToken::Kind::kEnd;
+  switch (SortOf(Peek())) {
+    case Sort::kLetter:
+      return Identifier();
+    case Sort::kPunctuation:
+      ++position_;
+      return MofToken::Kind::kPunctuation;
+    case Sort::kQuote:
+      return Peek() == '"' ? Text() : Character();
+    case Sort::kDigit:
+      return Number();
+    case Sort::kSign:
+      if (IsDigit(Peek(1))) return Number();
+      break;
+    default:
+      break;
   }
-  token.number = static_cast<int64_t>(characters[0]);
+  Refuse(position_, "a character that MOF has no use for");
 }
 
-void MofLexer::Number(MofToken& token) {
-  const bool negative = Peek() == '-';
-  if (negative || Peek() == '+') ++position_;
+void MofLexer::RequireLength(size_t start) const {
+  if (position_ - start <= kLongestWord) return;
+  Refuse(start, "a word of more than " + std::to_string(kLongestWord) + " characters");
+}
+
+MofToken::Kind MofLexer::Identifier() {
   const size_t start = position_;
+  while (!AtEnd() && IsWordCharacter(text_[position_])) ++position_;
+  RequireLength(start);
+  return MofToken::Kind::kIdentifier;
+}
+
+MofToken::Kind MofLexer::Character() {
+  const size_t start = position_;
+  std::string meaning;
+  QuotedText('\'', &meaning);
+  if (ToWide(meaning).size() != 1) Refuse(start, "between single quotes stands one character");
+  return MofToken::Kind::kCharacter;
+}
+
+MofToken::Kind MofLexer::Number() {
+  const size_t start = position_;
+  if (Peek() == '-' || Peek() == '+') ++position_;
+  const size_t digits = position_;
   bool real = false;
-  while (IsIdentifierStart(Peek()) || IsDigit(Peek()) || Peek() == '.' ||
+  while (IsWordCharacter(Peek()) || Peek() == '.' ||
          ((Peek() == '+' || Peek() == '-') && real && (text_[position_ - 1] | 0x20) == 'e')) {
     real = real || Peek() == '.';
     ++position_;
   }
-  const std::string_view digits = Since(start);
-  RequireLength(digits, token.place);
-  if (real) {
-    token.kind = MofToken::Kind::kReal;
-    double value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    if (error == std::errc() && end == digits.data() + digits.size()) {
-      token.number = negative ? -value : value;
-      return;
-    }
-  } else {
-    token.kind = MofToken::Kind::kInteger;
-    if (ReadInteger(digits, negative, token)) return;
+  RequireLength(digits);
+  if (!NumberOf(Since(start))) {
+    Refuse(start, "'" + std::string(Since(digits)) + "' is not a number that fits 64 bits");
   }
-  throw MofError(token.place, "'" + std::string(digits) + "' is not a number that fits 64 bits");
+  return real ? MofToken::Kind::kReal : MofToken::Kind::kInteger;
 }
 
-std::string_view MofLexer::JoinedTexts() {
-  const std::string_view first = QuotedText('"');
-  SkipBlanks();
-  if (Peek() != '"') return first;
-  std::string& joined = composed_.emplace_back(first);
-  for (; Peek() == '"'; SkipBlanks()) joined += QuotedText('"');
-  return joined;
+MofToken::Kind MofLexer::Text() {
+  JoinedTexts(nullptr);
+  return MofToken::Kind::kText;
+}
+
+void MofLexer::JoinedTexts(std::string* meaning) {
+  size_t end = position_;
+  while (Peek() == '"') {
+    QuotedText('"', meaning);
+    end = position_;
+    SkipBlanks();
+  }
+  position_ = end;
 }
 
 // One pass that stops at the first of the three: to look for each of them would read a text of many
@@ -216,56 +237,37 @@ void MofLexer::SkipPlainText(char quote) {
   position_ = static_cast<size_t>(stop - text_.begin());
 }
 
-std::string_view MofLexer::QuotedText(char quote) {
-  const MofPlace place = Place();
-  const size_t start = ++position_;
-  std::string* unescaped = nullptr;
-  size_t piece = start;
-  for (SkipPlainText(quote); Peek() != quote; SkipPlainText(quote)) {
-    if (Peek() != '\\') throw MofError(place, "the text is not closed on its line");
-    if (!unescaped) unescaped = &composed_.emplace_back();
-    *unescaped += Since(piece);
-    *unescaped += AsUtf8(EscapedCharacter());
-    piece = position_;
+void MofLexer::QuotedText(char quote, std::string* meaning) {
+  const size_t start = position_++;
+  for (;;) {
+    const size_t piece = position_;
+    SkipPlainText(quote);
+    if (meaning) *meaning += Since(piece);
+    if (Peek() == quote) break;
+    if (Peek() != '\\') Refuse(start, "the text is not closed on its line");
+    EscapedCharacter(meaning);
   }
-  const std::string_view last = Since(piece);
   ++position_;
-  if (!unescaped) return last;
-  return *unescaped += last;
 }
 
-char32_t MofLexer::EscapedCharacter() {
-  const MofPlace start = Place();
-  ++position_;
+void MofLexer::EscapedCharacter(std::string* meaning) {
+  const size_t start = position_++;
   const char c = Peek();
   if (!AtEnd()) ++position_;
-  switch (c) {
-    case 'b':
-      return '\b';
-    case 't':
-      return '\t';
-    case 'n':
-      return '\n';
-    case 'f':
-      return '\f';
-    case 'r':
-      return '\r';
-    case '"':
-    case '\'':
-    case '\\':
-      return static_cast<unsigned char>(c);
-    default:
-      break;
+  const size_t place = kEscapes.find(c);
+  if (place != std::string_view::npos) {
+    if (meaning) *meaning += kEscaped[place];
+    return;
   }
-  std::string digits;
-  while ((c == 'x' || c == 'X') && digits.size() < 4 && IsHexDigit(Peek())) {
-    digits += Peek();
-    ++position_;
-  }
-  if (digits.empty()) throw MofError(start, "MOF has no such escape");
-  uint32_t value = 0;
-  std::from_chars(digits.data(), digits.data() + digits.size(), value, 16);
-  return value;
+  const size_t digits = position_;
+  while ((c == 'x' || c == 'X') && position_ < digits + 4 && IsHexDigit(Peek())) ++position_;
+  const std::string_view code = Since(digits);
+  if (code.empty()) Refuse(start, "MOF has no such escape");
+  if (!meaning) return;
+  uint16_t unit = 0;
+  std::from_chars(code.data(), code.data() + code.size(), unit, 16);
+  const auto character = static_cast<OLECHAR>(unit);
+  *meaning += ToUtf8(WideView(&character, 1));
 }
 
 }  // namespace tqcim::host

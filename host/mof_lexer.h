@@ -1,85 +1,74 @@
-/// Words of a MOF text (DMTF DSP0004, annex A), with their places.
+/// Words of a MOF text (DMTF DSP0004, annex A).
 #pragma once
 
-#include <cstdint>
-#include <deque>
-#include <stdexcept>
 #include <string>
 #include <string_view>
-#include <variant>
+
+#include "host/mof_source.h"
+#include "host/value.h"
 
 namespace tqcim::host {
-
-/// Line and column count from 1; a column is a byte.
-struct MofPlace {
-  const std::string* file = nullptr;
-  int line = 1;
-  int column = 1;
-};
-
-/// "FILE:LINE:COLUMN: reason".
-class MofError : public std::runtime_error {
- public:
-  MofError(const MofPlace& place, const std::string& reason);
-};
 
 struct MofToken {
   enum class Kind { kIdentifier, kText, kCharacter, kInteger, kReal, kPunctuation, kEnd };
   Kind kind = Kind::kEnd;
-  MofPlace place;
-  /// The identifier or the punctuation character as written; a text without quotes and escapes.
-  /// The lexer's, or its text's.
+  /// As it stands in the source, a text with its quotes and escapes. Texts that stand side by side
+  /// are one token. At the end empty, behind the last character.
   std::string_view text;
-  /// Of kCharacter and kInteger the value: int64_t, or uint64_t for what is larger; of kReal a
-  /// double.
-  std::variant<int64_t, uint64_t, double> number;
 
-  bool Is(char punctuation) const {
-    return kind == Kind::kPunctuation && text.size() == 1 && text[0] == punctuation;
-  }
+  bool Is(char punctuation) const { return kind == Kind::kPunctuation && text[0] == punctuation; }
   /// Keywords are caseless.
   bool IsWord(std::string_view keyword) const;
   /// How an error message calls the token.
   std::string Describe() const;
 };
 
-/// Splits a text into tokens, one at a time. `file` and `text` outlive the lexer, which outlives
-/// its tokens.
+/// What a text, a character or a number stands for: UTF-8; the code of the character; int64_t, or
+/// uint64_t for what is larger, or a double.
+Scalar LiteralOf(const MofToken& token);
+
+/// Splits a text into tokens, one at a time. The source outlives the lexer.
 class MofLexer {
  public:
-  MofLexer(const std::string& file, std::string_view text);
+  explicit MofLexer(const MofSource& source)
+      : source_(source), text_(WithoutByteOrderMark(source.text)) {}
 
-  /// The next token, over and over kEnd at the end. Texts that stand side by side are one. Throws
-  /// MofError.
+  /// The next token, over and over kEnd at the end. Throws MofError.
   MofToken Next();
 
  private:
+  friend Scalar LiteralOf(const MofToken& token);
+
   char Peek(size_t ahead = 0) const {
     return position_ + ahead < text_.size() ? text_[position_ + ahead] : '\0';
   }
   bool AtEnd() const { return position_ >= text_.size(); }
-  MofPlace Place() const { return {file_, line_, static_cast<int>(position_ - line_start_) + 1}; }
   /// What stands between a position that has been passed and this one.
   std::string_view Since(size_t start) const { return text_.substr(start, position_ - start); }
+  [[noreturn]] void Refuse(size_t position, const std::string& reason) const {
+    throw MofError(source_, text_.substr(position), reason);
+  }
+  /// Of the word that ends here.
+  void RequireLength(size_t start) const;
   void SkipBlanks();
   void SkipComment();
-  std::string_view JoinedTexts();
-  std::string_view QuotedText(char quote);
+  /// Each of these goes past what starts here, and adds what it stands for to a text that is not
+  /// null.
+  void JoinedTexts(std::string* meaning);
+  void QuotedText(char quote, std::string* meaning);
+  void EscapedCharacter(std::string* meaning);
   /// Goes on to the quote, a backslash or the end of the line.
   void SkipPlainText(char quote);
-  char32_t EscapedCharacter();
-  /// Each fills in the token that starts here.
-  void Identifier(MofToken& token);
-  void Character(MofToken& token);
-  void Number(MofToken& token);
+  /// Each goes past the token that starts here, and tells its kind.
+  MofToken::Kind Pass();
+  MofToken::Kind Identifier();
+  MofToken::Kind Text();
+  MofToken::Kind Character();
+  MofToken::Kind Number();
 
-  const std::string* file_;
+  const MofSource& source_;
   std::string_view text_;
   size_t position_ = 0;
-  size_t line_start_ = 0;
-  int line_ = 1;
-  /// Texts that don't stand in one piece in the source.
-  std::deque<std::string> composed_;
 };
 
 }  // namespace tqcim::host

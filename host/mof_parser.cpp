@@ -1,10 +1,13 @@
 #include "host/mof_parser.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
+#include <string>
 #include <utility>
 
 #include "host/cim_type.h"
+#include "host/mof_lexer.h"
 #include "host/text.h"
 
 namespace tqcim::host {
@@ -12,7 +15,7 @@ namespace {
 
 class MofParser {
  public:
-  MofParser(const std::string& file, std::string_view text) : lexer_(file, text) { Skip(); }
+  explicit MofParser(const MofSource& source) : source_(source), lexer_(source) { Skip(); }
 
   MofDocument Parse() {
     while (token_.kind != MofToken::Kind::kEnd) Declaration();
@@ -20,12 +23,13 @@ class MofParser {
   }
 
  private:
-  /// Gives the current token and moves on to the next.
-  MofToken Take() { return std::exchange(token_, lexer_.Next()); }
   void Skip() { token_ = lexer_.Next(); }
 
-  [[noreturn]] void Refuse(const std::string& wanted) const {
-    throw MofError(token_.place, wanted + " should stand here, not " + token_.Describe());
+  [[noreturn]] void Refuse(std::string_view part, const std::string& reason) const {
+    throw MofError(source_, part, reason);
+  }
+  [[noreturn]] void Want(const std::string& wanted) const {
+    Refuse(token_.text, wanted + " should stand here, not " + token_.Describe());
   }
   bool TakeIf(char punctuation) {
     if (!token_.Is(punctuation)) return false;
@@ -33,10 +37,10 @@ class MofParser {
     return true;
   }
   void Expect(char punctuation) {
-    if (!TakeIf(punctuation)) Refuse(std::string("'") + punctuation + "'");
+    if (!TakeIf(punctuation)) Want(std::string("'") + punctuation + "'");
   }
   std::string_view ExpectName(const char* what) {
-    if (token_.kind != MofToken::Kind::kIdentifier) Refuse(what);
+    if (token_.kind != MofToken::Kind::kIdentifier) Want(what);
     const std::string_view name = token_.text;
     Skip();
     return name;
@@ -46,17 +50,17 @@ class MofParser {
     if (token_.Is('#')) return Directive();
     if (token_.IsWord("instance")) return InstanceDeclaration();
     std::vector<Qualifier> qualifiers = QualifierList();
-    if (!token_.IsWord("class")) Refuse("a class, an instance or a directive");
+    if (!token_.IsWord("class")) Want("a class, an instance or a directive");
     Skip();
     ClassDeclaration(std::move(qualifiers));
   }
 
   void Directive() {
     Skip();
-    if (!token_.IsWord("pragma")) Refuse("'pragma'");
+    if (!token_.IsWord("pragma")) Want("'pragma'");
     Skip();
     if (token_.IsWord("include")) {
-      throw MofError(token_.place, "files cannot be included: give them one by one");
+      Refuse(token_.text, "files cannot be included: give them one by one");
     }
     ExpectName("the name of a directive");
     if (!TakeIf('(')) return;
@@ -64,7 +68,7 @@ class MofParser {
       const bool word = token_.kind == MofToken::Kind::kIdentifier ||
                         token_.kind == MofToken::Kind::kText ||
                         token_.kind == MofToken::Kind::kInteger || token_.Is(',');
-      if (!word) Refuse("an argument of the directive or ')'");
+      if (!word) Want("an argument of the directive or ')'");
       Skip();
     }
   }
@@ -72,42 +76,41 @@ class MofParser {
   std::vector<Qualifier> QualifierList() {
     std::vector<Qualifier> qualifiers;
     if (!TakeIf('[')) return qualifiers;
+    constexpr size_t kFew = 4;
+    qualifiers.reserve(kFew);
     do {
-      const MofPlace place = token_.place;
-      Qualifier qualifier{std::string(ExpectName("the name of a qualifier")), true};
+      Qualifier qualifier{ExpectName("the name of a qualifier"), {}};
       if (FindQualifier(qualifiers, qualifier.name)) {
-        throw MofError(place, "qualifier " + qualifier.name + " stands twice");
+        Refuse(qualifier.name, "qualifier " + std::string(qualifier.name) + " stands twice");
       }
       if (TakeIf('(')) {
-        qualifier.value = SingleValue();
+        qualifier.text = SingleValue();
         Expect(')');
       } else if (token_.Is('{')) {
-        qualifier.value = ArrayValue();
+        qualifier.text = ArrayValue();
       }
       if (TakeIf(':')) {
         while (token_.kind == MofToken::Kind::kIdentifier) Skip();
       }
-      qualifiers.push_back(std::move(qualifier));
+      qualifiers.push_back(qualifier);
     } while (TakeIf(','));
     Expect(']');
     return qualifiers;
   }
 
   void ClassDeclaration(std::vector<Qualifier> qualifiers) {
-    ParsedClass parsed;
-    parsed.place = token_.place;
-    parsed.name = ExpectName("the name of a class");
-    parsed.qualifiers = std::move(qualifiers);
-    if (TakeIf(':')) {
-      parsed.superclass_place = token_.place;
-      parsed.superclass = ExpectName("the name of the superclass");
-    }
+    ParsedClass parsed{.source = &source_,
+                       .name = ExpectName("the name of a class"),
+                       .superclass = {},
+                       .qualifiers = std::move(qualifiers),
+                       .properties = {}};
+    if (TakeIf(':')) parsed.superclass = ExpectName("the name of the superclass");
     Expect('{');
     while (!TakeIf('}')) {
-      ParsedProperty property = PropertyDeclaration();
+      PropertyDefinition property = PropertyDeclaration();
       if (std::any_of(parsed.properties.begin(), parsed.properties.end(),
                       [&](const auto& before) { return EqualNames(before.name, property.name); })) {
-        throw MofError(property.place, "property " + std::string(property.name) + " stands twice");
+        Refuse(property.name, "property " + std::string(property.name) + " stands twice");
       }
       parsed.properties.push_back(std::move(property));
     }
@@ -115,10 +118,9 @@ class MofParser {
     document_.classes.push_back(std::move(parsed));
   }
 
-  ParsedProperty PropertyDeclaration() {
-    ParsedProperty property;
+  PropertyDefinition PropertyDeclaration() {
+    PropertyDefinition property;
     property.qualifiers = QualifierList();
-    const MofPlace type_place = token_.place;
     const std::string_view type_name = ExpectName("the type of a property or '}'");
     if (token_.IsWord("ref")) {
       Skip();
@@ -127,22 +129,20 @@ class MofParser {
     } else if (const auto type = TypeOfName(type_name)) {
       property.type = *type;
     } else {
-      throw MofError(type_place, std::string(type_name) + " is not a CIM type");
+      Refuse(type_name, std::string(type_name) + " is not a CIM type");
     }
-    property.place = token_.place;
     property.name = ExpectName("the name of a property");
-    if (token_.Is('(')) throw MofError(token_.place, "methods are not supported");
+    if (token_.Is('(')) Refuse(token_.text, "methods are not supported");
     if (TakeIf('[')) {
       property.array = true;
       if (token_.kind == MofToken::Kind::kInteger) Skip();
       Expect(']');
     }
     if (TakeIf('=')) {
-      const MofPlace place = token_.place;
-      const Value value = AnyValue();
-      const auto converted = ConvertToType(value, property.type, property.array);
+      const std::string_view text = AnyValue();
+      const auto converted = ConvertToType(ValueOf(text), property.type, property.array);
       if (!converted) {
-        throw MofError(place, "the value is not of the type of " + std::string(property.name));
+        Refuse(text, "the value is not of the type of " + std::string(property.name));
       }
       property.default_value = *converted;
     }
@@ -152,11 +152,9 @@ class MofParser {
 
   void InstanceDeclaration() {
     Skip();
-    if (!token_.IsWord("of")) Refuse("'of'");
+    if (!token_.IsWord("of")) Want("'of'");
     Skip();
-    ParsedInstance parsed;
-    parsed.place = token_.place;
-    parsed.class_name = ExpectName("the name of a class");
+    ParsedInstance parsed{&source_, ExpectName("the name of a class"), {}};
     if (token_.IsWord("as")) {
       Skip();
       Expect('$');
@@ -164,73 +162,90 @@ class MofParser {
     }
     Expect('{');
     while (!TakeIf('}')) {
-      ParsedAssignment assignment;
-      assignment.place = token_.place;
-      assignment.property = ExpectName("the name of a property or '}'");
+      const std::string_view property = ExpectName("the name of a property or '}'");
       Expect('=');
-      assignment.value = AnyValue();
+      parsed.assignments.emplace_back(property, ValueOf(AnyValue()));
       Expect(';');
-      parsed.assignments.push_back(std::move(assignment));
     }
     Expect(';');
     document_.instances.push_back(std::move(parsed));
   }
 
-  Value AnyValue() { return token_.Is('{') ? ArrayValue() : SingleValue(); }
+  /// Each of these goes past a value and gives its text.
+  std::string_view AnyValue() { return token_.Is('{') ? ArrayValue() : SingleValue(); }
 
-  Value ArrayValue() {
+  std::string_view ArrayValue() {
+    const std::string_view start = token_.text;
     Expect('{');
-    Array array;
-    if (TakeIf('}')) return array;
-    constexpr size_t kFew = 16;
-    array.reserve(kFew);
-    do {
-      const MofPlace place = token_.place;
-      auto element = ToScalar(SingleValue());
-      if (!element) throw MofError(place, "an array holds no null");
-      array.push_back(std::move(*element));
-    } while (TakeIf(','));
-    Expect('}');
-    return array;
-  }
-
-  /// A value that is not an array.
-  Value SingleValue() {
-    switch (token_.kind) {
-      case MofToken::Kind::kText:
-        return std::string(Take().text);
-      case MofToken::Kind::kCharacter:
-      case MofToken::Kind::kInteger:
-      case MofToken::Kind::kReal:
-        return std::visit([](auto number) -> Value { return number; }, Take().number);
-      case MofToken::Kind::kIdentifier:
-        if (token_.IsWord("true") || token_.IsWord("false")) return Take().IsWord("true");
-        if (token_.IsWord("null")) return Take(), Value{};
-        break;
-      default:
-        if (TakeIf('$')) return Alias();
-        break;
+    if (!token_.Is('}')) {
+      do {
+        if (token_.IsWord("null")) Refuse(token_.text, "an array holds no null");
+        SingleValue();
+      } while (TakeIf(','));
     }
-    Refuse("a value");
+    const std::string_view end = token_.text;
+    Expect('}');
+    return UpTo(start, end);
   }
 
-  Value Alias() {
-    const MofPlace place = token_.place;
-    const std::string name(ExpectName("the name of an alias"));
-    if (!aliases_.contains(name)) throw MofError(place, "alias $" + name + " is not declared");
-    return "$" + name;
+  std::string_view SingleValue() {
+    const std::string_view start = token_.text;
+    if (TakeIf('$')) {
+      const std::string_view name = ExpectName("the name of an alias");
+      if (!aliases_.contains(name)) {
+        Refuse(name, "alias $" + std::string(name) + " is not declared");
+      }
+      return UpTo(start, name);
+    }
+    const bool literal = token_.kind != MofToken::Kind::kIdentifier &&
+                         token_.kind != MofToken::Kind::kPunctuation &&
+                         token_.kind != MofToken::Kind::kEnd;
+    if (!literal && !token_.IsWord("true") && !token_.IsWord("false") && !token_.IsWord("null")) {
+      Want("a value");
+    }
+    Skip();
+    return start;
   }
 
+  /// What stands from one part of the text to the end of a later one.
+  static std::string_view UpTo(std::string_view start, std::string_view end) {
+    return {start.data(), static_cast<size_t>(end.data() + end.size() - start.data())};
+  }
+
+  const MofSource& source_;
   MofLexer lexer_;
   MofToken token_;
-  std::set<std::string> aliases_;
+  std::set<std::string_view> aliases_;
   MofDocument document_;
 };
 
+/// Nothing for null.
+std::optional<Scalar> ScalarOf(const MofToken& token, MofLexer& lexer) {
+  if (token.Is('$')) return "$" + std::string(lexer.Next().text);
+  if (token.kind != MofToken::Kind::kIdentifier) return LiteralOf(token);
+  if (token.IsWord("null")) return std::nullopt;
+  return token.IsWord("true");
+}
+
 }  // namespace
 
-MofDocument ParseMof(const std::string& file, std::string_view text) {
-  return MofParser(file, text).Parse();
+MofDocument ParseMof(const MofSource& source) {
+  return MofParser(source).Parse();
+}
+
+Value ValueOf(std::string_view text) {
+  const MofSource source{{}, text};
+  MofLexer lexer(source);
+  MofToken token = lexer.Next();
+  if (!token.Is('{')) {
+    const auto scalar = ScalarOf(token, lexer);
+    return scalar ? ToValue(*scalar) : Value();
+  }
+  Array array;
+  for (token = lexer.Next(); !token.Is('}'); token = lexer.Next()) {
+    if (!token.Is(',')) array.push_back(*ScalarOf(token, lexer));
+  }
+  return array;
 }
 
 }  // namespace tqcim::host

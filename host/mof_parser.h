@@ -1,45 +1,27 @@
-/// MOF text as declarations, before they are held against each other.
+/// MOF text as declarations, before they are held against each other. Names are parts of the text.
 #pragma once
 
-#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
-#include "host/mof_lexer.h"
+#include "host/mof_source.h"
 #include "host/schema.h"
 
 namespace tqcim::host {
 
-/// Names are parts of the text.
-struct ParsedProperty {
-  MofPlace place;
-  std::string_view name;
-  CimType type = CimType::kString;
-  bool array = false;
-  std::string_view reference_class;
-  Value default_value;
-  std::vector<Qualifier> qualifiers;
-};
-
 struct ParsedClass {
-  MofPlace place;
+  const MofSource* source = nullptr;
   std::string_view name;
-  MofPlace superclass_place;
   std::string_view superclass;  ///< empty for a root class
   std::vector<Qualifier> qualifiers;
-  std::vector<ParsedProperty> properties;
-};
-
-struct ParsedAssignment {
-  MofPlace place;
-  std::string_view property;
-  Value value;
+  std::vector<PropertyDefinition> properties;  ///< neither their keys nor their origins are set
 };
 
 struct ParsedInstance {
-  MofPlace place;
+  const MofSource* source = nullptr;
   std::string_view class_name;
-  std::vector<ParsedAssignment> assignments;
+  std::vector<std::pair<std::string_view, Value>> assignments;
 };
 
 struct MofDocument {
@@ -48,8 +30,12 @@ struct MofDocument {
 };
 
 /// Parses one MOF text: classes with properties and qualifiers, instances with aliases, compiler
-/// directives. Methods, embedded instances and qualifier declarations are refused. An alias as a
-/// value is the text "$Name". Throws MofError. `file` and `text` outlive the document.
-MofDocument ParseMof(const std::string& file, std::string_view text);
+/// directives. Methods, embedded instances and qualifier declarations are refused. Throws MofError.
+/// The source outlives the document.
+MofDocument ParseMof(const MofSource& source);
+
+/// What a value stands for, from its text, which has been parsed before. An alias is the text
+/// "$Name".
+Value ValueOf(std::string_view text);
 
 }  // namespace tqcim::host

@@ -19,10 +19,10 @@ Record& TheRecord() {
 
 }  // namespace
 
-void RefusedPuts::Add(const std::string& class_name, const std::string& property, HRESULT result) {
+void RefusedPuts::Add(std::string_view class_name, std::string_view property, HRESULT result) {
   Record& record = TheRecord();
   const std::lock_guard lock(record.mutex);
-  ++record.counts[{class_name, property, result}];
+  ++record.counts[{std::string(class_name), std::string(property), result}];
 }
 
 std::vector<RefusedPut> RefusedPuts::All() {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/wmi.h"
@@ -20,7 +21,7 @@ struct RefusedPut {
 /// May be used from any thread.
 class RefusedPuts {
  public:
-  static void Add(const std::string& class_name, const std::string& property, HRESULT result);
+  static void Add(std::string_view class_name, std::string_view property, HRESULT result);
   /// In order of class, property and result.
   static std::vector<RefusedPut> All();
   static void Clear();

@@ -8,6 +8,7 @@
 
 #include "embedded/schema.h"
 #include "host/class_builder.h"
+#include "host/mof_parser.h"
 #include "host/text.h"
 
 namespace tqcim::host {
@@ -24,6 +25,10 @@ std::string ReadFile(const std::filesystem::path& path) {
 
 }  // namespace
 
+Value Qualifier::value() const {
+  return text.empty() ? Value(true) : ValueOf(text);
+}
+
 const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::string_view name) {
   const auto found =
       std::find_if(qualifiers.begin(), qualifiers.end(),
@@ -31,27 +36,28 @@ const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::st
   return found == qualifiers.end() ? nullptr : &*found;
 }
 
-std::string_view QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name) {
+std::string QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name) {
   const Qualifier* qualifier = FindQualifier(qualifiers, name);
-  const auto* text = qualifier ? std::get_if<std::string>(&qualifier->value) : nullptr;
-  return text ? std::string_view(*text) : std::string_view();
+  const Value value = qualifier ? qualifier->value() : Value();
+  const auto* text = std::get_if<std::string>(&value);
+  return text ? *text : std::string();
 }
 
-std::string_view PropertyDefinition::Description() const {
+std::string PropertyDefinition::Description() const {
   return QualifierText(qualifiers, "Description");
 }
 
-std::string_view PropertyDefinition::Units() const {
+std::string PropertyDefinition::Units() const {
   return QualifierText(qualifiers, "Units");
 }
 
-std::string_view ClassDefinition::Description() const {
+std::string ClassDefinition::Description() const {
   return QualifierText(qualifiers, "Description");
 }
 
 std::string PropertyDefinition::TypeText() const {
   std::string text(TypeName(type));
-  if (type == CimType::kReference) text += " " + reference_class;
+  if (type == CimType::kReference) text.append(" ").append(reference_class);
   return array ? text + "[]" : text;
 }
 
@@ -64,11 +70,11 @@ std::optional<size_t> ClassDefinition::IndexOf(std::string_view property) const 
 
 const PropertyDefinition* ClassDefinition::Find(std::string_view property) const {
   const std::optional<size_t> index = IndexOf(property);
-  return index ? properties[*index].get() : nullptr;
+  return index ? properties[*index] : nullptr;
 }
 
 Schema Schema::Embedded() {
-  std::vector<Source> sources;
+  std::vector<MofSource> sources;
   for (const embedded::schema::File& file : embedded::schema::kFiles) {
     sources.push_back({std::string(file.name), file.contents});
   }
@@ -85,26 +91,27 @@ Schema Schema::FromFolder(const std::filesystem::path& folder) {
   if (error) throw std::runtime_error(PathText(folder) + ": the folder cannot be read");
   if (paths.empty()) throw std::runtime_error(PathText(folder) + ": there is no .mof file");
   std::sort(paths.begin(), paths.end());
-  std::vector<std::string> texts;
-  std::transform(paths.begin(), paths.end(), std::back_inserter(texts), ReadFile);
-  std::vector<Source> sources;
-  for (size_t i = 0; i < paths.size(); ++i) sources.push_back({PathText(paths[i]), texts[i]});
-  return FromSources(sources);
+  std::vector<std::string> files;
+  std::transform(paths.begin(), paths.end(), std::back_inserter(files), ReadFile);
+  std::vector<MofSource> sources;
+  for (size_t i = 0; i < paths.size(); ++i) sources.push_back({PathText(paths[i]), files[i]});
+  Schema schema = FromSources(sources);
+  schema.files_ = std::move(files);
+  return schema;
 }
 
-Schema Schema::FromSources(std::span<const Source> sources) {
+Schema Schema::FromSources(std::span<const MofSource> sources) {
   MofDocument document;
-  for (const Source& source : sources) {
-    MofDocument parsed = ParseMof(source.name, source.text);
+  for (const MofSource& source : sources) {
+    MofDocument parsed = ParseMof(source);
     std::move(parsed.classes.begin(), parsed.classes.end(), std::back_inserter(document.classes));
     std::move(parsed.instances.begin(), parsed.instances.end(),
               std::back_inserter(document.instances));
   }
   Schema schema;
-  schema.classes_ = BuildClasses(std::move(document.classes));
-  for (size_t i = 0; i < schema.classes_.size(); ++i) {
-    schema.by_name_.emplace(schema.classes_[i].name, i);
-  }
+  BuiltClasses built = BuildClasses(std::move(document.classes));
+  schema.classes_ = std::move(built.classes);
+  schema.by_name_ = std::move(built.by_name);
   schema.instances_ = BuildInstances(document.instances, schema);
   return schema;
 }

@@ -3,13 +3,13 @@
 
 #include <filesystem>
 #include <map>
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/mof_source.h"
 #include "host/text.h"
 #include "host/value.h"
 
@@ -37,30 +37,34 @@ enum class CimType {
 /// The name that MOF gives to a type ("uint32"); a reference is "ref".
 std::string_view TypeName(CimType type);
 
+/// A qualifier as MOF writes it: few are ever looked at.
 struct Qualifier {
-  std::string name;
-  Value value;  ///< `true` where MOF gives no value
+  std::string_view name;
+  std::string_view text;  ///< of the value; empty where MOF gives none
+
+  /// `true` where MOF gives none.
+  Value value() const;
 };
 
 /// The qualifier of that name in any case, or null.
 const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::string_view name);
 /// Its text; empty without it.
-std::string_view QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name);
+std::string QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name);
 
-/// One property of a class, its own or inherited.
+/// One property of a class.
 struct PropertyDefinition {
-  std::string name;
+  std::string_view name;
   CimType type = CimType::kString;
   bool array = false;
   bool key = false;
-  std::string reference_class;  ///< of a reference, the class that it points to
-  std::string origin;           ///< the class that declares the property first
+  std::string_view reference_class;  ///< of a reference, the class that it points to
+  std::string_view origin;           ///< the class that declares the property first
   Value default_value;
   std::vector<Qualifier> qualifiers;
 
   /// The texts of these qualifiers; empty without them.
-  std::string_view Description() const;
-  std::string_view Units() const;
+  std::string Description() const;
+  std::string Units() const;
 
   /// The type as people read it: "uint32", "uint32[]", "ref CIM_Fan".
   std::string TypeText() const;
@@ -70,17 +74,19 @@ struct PropertyDefinition {
 /// order of its declaration; a property that is declared again keeps its first place. One that is
 /// not is the superclass's own.
 struct ClassDefinition {
-  std::string name;
-  std::string superclass;  ///< empty for a root class
-  std::string provider;    ///< the name of the provider that serves the class; empty for none
+  std::string_view name;
+  std::string_view superclass;  ///< empty for a root class
+  std::string provider;         ///< the name of the provider that serves the class; empty for none
   bool abstract = false;
   bool association = false;
   bool singleton = false;
-  std::vector<std::shared_ptr<const PropertyDefinition>> properties;
+  std::vector<const PropertyDefinition*> properties;
+  std::vector<PropertyDefinition>
+      declared;  ///< those of `properties` that the class itself declares
   std::vector<Qualifier> qualifiers;
 
   /// The text of the qualifier; empty without it.
-  std::string_view Description() const;
+  std::string Description() const;
 
   /// The property of that name in any case, or null.
   const PropertyDefinition* Find(std::string_view property) const;
@@ -88,30 +94,34 @@ struct ClassDefinition {
   std::optional<size_t> IndexOf(std::string_view property) const;
 };
 
+/// Where a class stands among others, by its name in any case.
+using ClassIndex = std::map<std::string_view, size_t, NameOrder>;
+
 /// An instance that MOF text declares ("instance of CLASS { ... };").
 struct DeclaredInstance {
-  std::string class_name;
-  std::vector<std::pair<std::string, Value>> properties;
+  std::string_view class_name;
+  std::vector<std::pair<std::string_view, Value>> properties;
 };
 
 /// All classes and declared instances of a set of MOF texts. Immutable once made.
 class Schema {
  public:
-  /// One MOF text and the name that error messages give it.
-  struct Source {
-    std::string name;
-    std::string_view text;
-  };
-
   /// The schema that the program carries.
   static Schema Embedded();
 
-  /// Every *.mof file of a folder. Throws MofError (see mof_parser.h) for text that is not valid,
-  /// std::runtime_error where the folder or a file can't be read; the sentence names the file.
+  /// Every *.mof file of a folder. Throws MofError for text that is not valid, std::runtime_error
+  /// where the folder or a file can't be read; the sentence names the file.
   static Schema FromFolder(const std::filesystem::path& folder);
 
-  /// The classes may stand in any order among the sources. Throws MofError.
-  static Schema FromSources(std::span<const Source> sources);
+  /// The classes may stand in any order among the sources, whose texts outlive the schema. Throws
+  /// MofError.
+  static Schema FromSources(std::span<const MofSource> sources);
+
+  Schema(Schema&&) = default;
+  Schema& operator=(Schema&&) = default;
+  // Classes point at the properties of their superclasses.
+  Schema(const Schema&) = delete;
+  Schema& operator=(const Schema&) = delete;
 
   /// The class of that name in any case, or null.
   const ClassDefinition* Find(std::string_view class_name) const;
@@ -121,9 +131,12 @@ class Schema {
   const std::vector<DeclaredInstance>& Instances() const { return instances_; }
 
  private:
+  Schema() = default;
+
+  std::vector<std::string> files_;  // what the names stand in, unless the texts are another's
   std::vector<ClassDefinition> classes_;
   std::vector<DeclaredInstance> instances_;
-  std::map<std::string, size_t, NameOrder> by_name_;
+  ClassIndex by_name_;
 };
 
 }  // namespace tqcim::host

@@ -1,11 +1,13 @@
 #include "store/files.h"
 
+#include <algorithm>
 #include <cerrno>
-#include <fstream>
+#include <cstdio>
 #include <random>
 #include <system_error>
 #include <utility>
 
+#include "store/process.h"
 #include "store/store_error.h"
 
 namespace tqcim::store {
@@ -54,28 +56,33 @@ std::string ReadFile(const fs::path& path) {
   }
   if (!fs::is_regular_file(status)) throw StoreError(TextOf(path), "not a regular file");
   errno = 0;
-  std::ifstream file(path, std::ios::binary);
+  const File file = OpenToRead(path);
   if (!file) throw StoreError(TextOf(path), LastError());
   // The size that a file claims is no use: files of the system's own folders claim any.
   std::string contents;
-  std::string piece(size_t{64} << 10, '\0');
-  while (file.read(piece.data(), static_cast<std::streamsize>(piece.size())), file.gcount() > 0) {
-    contents.append(piece, 0, static_cast<size_t>(file.gcount()));
+  for (bool more = true; more;) {
+    const size_t start = contents.size();
+    const size_t piece = std::max(start, size_t{8} << 10);
+    contents.resize(start + piece);
+    const size_t read = std::fread(contents.data() + start, 1, piece, file.get());
+    contents.resize(start + read);
+    more = read == piece;
     if (contents.size() > kLargestFile) {
       throw StoreError(TextOf(path), "larger than " + std::to_string(kLargestFile >> 20) + " MiB");
     }
   }
-  if (file.bad()) throw StoreError(TextOf(path), LastError());
+  if (std::ferror(file.get())) throw StoreError(TextOf(path), LastError());
   return contents;
 }
 
 void WriteFile(const fs::path& path, std::string_view contents) {
   const TemporaryFile temporary(path);
   errno = 0;
-  std::ofstream file(temporary.Path(), std::ios::binary);
-  file.write(contents.data(), static_cast<std::streamsize>(contents.size()));
-  file.close();
-  if (!file) throw StoreError(TextOf(path), "cannot be written: " + LastError());
+  File file = OpenToWrite(temporary.Path());
+  const bool written =
+      file && std::fwrite(contents.data(), 1, contents.size(), file.get()) == contents.size();
+  if (!written || std::fclose(file.release()) != 0)
+    throw StoreError(TextOf(path), "cannot be written: " + LastError());
   std::error_code error;
   fs::rename(temporary.Path(), path, error);
   if (error) throw StoreError(TextOf(path), "cannot be written: " + error.message());

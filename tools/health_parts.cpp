@@ -97,7 +97,7 @@ class PartReader {
       }
       return false;
     }
-    const auto probe = discrete_probes_.find({definition.name, name, status});
+    const auto probe = discrete_probes_.find({std::string(definition.name), name, status});
     if (probe == discrete_probes_.end()) return false;
     discrete_probes_.erase(probe);
     return true;
@@ -154,7 +154,7 @@ class PartReader {
     const auto& parts = roll_up.parts;
     return std::any_of(
         health_.findings.begin(), health_.findings.end(), [&](const Finding& finding) {
-          const std::string& name = finding.definition->name;
+          const std::string_view name = finding.definition->name;
           return finding.severity >= severity &&
                  (parts.empty() || std::find(parts.begin(), parts.end(), name) != parts.end());
         });

@@ -58,8 +58,8 @@ std::string RecordLine(const LogEntry& record, const Layout& layout) {
 std::string FindingLine(const Finding& finding, const Layout& layout) {
   const bool roll_up = finding.property != "Status" && finding.property != "RedundancyStatus";
   const std::string status = Printable(finding.status);
-  std::string line = Wrapped(finding.definition->name + " " + Printable(finding.name) + ": " +
-                                 (roll_up ? finding.property + " " : "") + status,
+  std::string line = Wrapped(std::string(finding.definition->name) + " " + Printable(finding.name) +
+                                 ": " + (roll_up ? finding.property + " " : "") + status,
                              4, layout.width);
   if (layout.colour && line.ends_with(status)) {
     const char* colour_of = finding.severity == Verdict::kCritical ? "Error" : "Stressed";

@@ -45,11 +45,11 @@ bool Answered(const host::Outcome& outcome) {
   return outcome.ok() || outcome.result == host::kNotFound;
 }
 
-std::string FailureText(const std::string& class_name, const host::Outcome& outcome) {
-  return class_name + ": the provider answered " + outcome.Text();
+std::string FailureText(std::string_view class_name, const host::Outcome& outcome) {
+  return std::string(class_name) + ": the provider answered " + outcome.Text();
 }
 
-Answer Enumerate(ManagementHost& host, const std::string& class_name) {
+Answer Enumerate(ManagementHost& host, std::string_view class_name) {
   Answer answer;
   answer.outcome = host.Enumerate(class_name, [&](host::Instance instance) {
     answer.instances.push_back(std::move(instance));

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "host/management_host.h"
@@ -23,7 +24,7 @@ std::unique_ptr<host::ManagementHost> OpenHost();
 bool Answered(const host::Outcome& outcome);
 
 /// "CIM_Fan: the provider answered WBEM_E_FAILED (0x80041001)".
-std::string FailureText(const std::string& class_name, const host::Outcome& outcome);
+std::string FailureText(std::string_view class_name, const host::Outcome& outcome);
 
 /// Instances, and what the provider said about them.
 struct Answer {
@@ -32,6 +33,6 @@ struct Answer {
 };
 
 /// All instances of a served class.
-Answer Enumerate(host::ManagementHost& host, const std::string& class_name);
+Answer Enumerate(host::ManagementHost& host, std::string_view class_name);
 
 }  // namespace tqcim::tools

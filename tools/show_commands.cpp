@@ -64,7 +64,7 @@ Answer Get(ManagementHost& host, const std::string& path) {
   return answer;
 }
 
-std::vector<host::Instance> TakeInstances(Answer answer, const std::string& class_name) {
+std::vector<host::Instance> TakeInstances(Answer answer, std::string_view class_name) {
   if (!Answered(answer.outcome)) {
     throw Failure(ExitStatus::kProviderFailed, FailureText(class_name, answer.outcome));
   }

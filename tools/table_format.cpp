@@ -80,7 +80,7 @@ Columns ChooseColumns(const Listing& listing) {
 Table MakeTable(const Listing& listing, const Positions& positions) {
   const auto& properties = listing.definition->properties;
   Table table;
-  for (const size_t position : positions) table.headings.push_back(properties[position]->name);
+  for (const size_t position : positions) table.headings.emplace_back(properties[position]->name);
   for (const host::Instance& instance : listing.instances) {
     std::vector<std::string>& row = table.rows.emplace_back();
     for (const size_t position : positions) {
@@ -95,8 +95,8 @@ std::string Heading(const Listing& listing, const Layout& layout) {
   const std::string number = count == 0   ? "no instances"
                              : count == 1 ? "1 instance"
                                           : std::to_string(count) + " instances";
-  return Wrapped(listing.definition->name + ": " + number + ", from " + listing.source, 0,
-                 layout.width) +
+  return Wrapped(std::string(listing.definition->name) + ": " + number + ", from " + listing.source,
+                 0, layout.width) +
          "\n";
 }
 
@@ -116,7 +116,7 @@ std::string PropertyLines(const host::Instance& instance, const Positions& posit
     std::string value = Wrapped(CellText(ValueOf(instance, i), property, ReadableTextWithUnits),
                                 indent, layout.width);
     if (layout.colour && property.name == kStatus) value = Coloured(value, value);
-    std::string line = "  " + property.name;
+    std::string line = "  " + std::string(property.name);
     if (!value.empty()) line.append(indent - line.size(), ' ');
     text += line + value + "\n";
   }

@@ -32,21 +32,22 @@ std::string ScalarText(const host::Scalar& scalar) {
                     scalar);
 }
 
-/// The texts of a qualifier that is an array of them, or null.
-const host::Array* ListOf(const host::PropertyDefinition& property, std::string_view qualifier) {
+/// The texts of a qualifier that is an array of them; none without it.
+host::Array ListOf(const host::PropertyDefinition& property, std::string_view qualifier) {
   const host::Qualifier* found = host::FindQualifier(property.qualifiers, qualifier);
-  return found ? std::get_if<host::Array>(&found->value) : nullptr;
+  const host::Value value = found ? found->value() : host::Value();
+  const auto* list = std::get_if<host::Array>(&value);
+  return list ? *list : host::Array();
 }
 
 /// What a code stands for, by the class's ValueMap and Values; empty where they don't tell.
 std::string ListedMeaning(const std::string& code, const host::PropertyDefinition& property) {
-  const host::Array* codes = ListOf(property, "ValueMap");
-  const host::Array* meanings = ListOf(property, "Values");
-  if (codes == nullptr || meanings == nullptr) return {};
-  const auto found = std::find(codes->begin(), codes->end(), host::Scalar(code));
-  const auto position = static_cast<size_t>(found - codes->begin());
-  return position < std::min(codes->size(), meanings->size()) ? ScalarText((*meanings)[position])
-                                                              : std::string();
+  const host::Array codes = ListOf(property, "ValueMap");
+  const host::Array meanings = ListOf(property, "Values");
+  const auto found = std::find(codes.begin(), codes.end(), host::Scalar(code));
+  const auto position = static_cast<size_t>(found - codes.begin());
+  return position < std::min(codes.size(), meanings.size()) ? ScalarText(meanings[position])
+                                                            : std::string();
 }
 
 /// A number of bytes in the largest unit that divides it; empty below 1 KiB.
@@ -71,7 +72,7 @@ std::string MeaningOf(const host::Scalar& scalar, const host::PropertyDefinition
 std::string ReadableScalar(const host::Scalar& scalar, const host::PropertyDefinition& property,
                            bool with_units) {
   std::string readable = ScalarText(scalar);
-  if (with_units && !property.Units().empty()) readable += ' ' + std::string(property.Units());
+  if (with_units && !property.Units().empty()) readable += ' ' + property.Units();
   const std::string meaning = MeaningOf(scalar, property);
   if (!meaning.empty()) readable += " (" + meaning + ")";
   return Printable(readable);

@@ -3,9 +3,8 @@
 #include <arpa/inet.h>
 #include <net/route.h>
 
+#include <algorithm>
 #include <charconv>
-#include <iterator>
-#include <sstream>
 
 #include "store/files.h"
 #include "store/store_error.h"
@@ -116,6 +115,17 @@ class Gateways {
   std::map<std::string, std::pair<uint32_t, std::string>> routes_;
 };
 
+/// What stands between the separators, without empty pieces.
+std::vector<std::string> Pieces(std::string_view text, std::string_view separators) {
+  std::vector<std::string> pieces;
+  for (size_t start = 0; start < text.size();) {
+    const size_t end = std::min(text.find_first_of(separators, start), text.size());
+    if (end > start) pieces.emplace_back(text.substr(start, end - start));
+    start = end + 1;
+  }
+  return pieces;
+}
+
 /// Calls `offer` with the words of each line.
 template <typename Offer>
 void ForEveryRoute(const fs::path& path, Offer offer) {
@@ -125,11 +135,7 @@ void ForEveryRoute(const fs::path& path, Offer offer) {
   } catch (const StoreError&) {
     return;
   }
-  std::istringstream lines(contents);
-  for (std::string line; std::getline(lines, line);) {
-    std::istringstream words(line);
-    offer(std::vector<std::string>(std::istream_iterator<std::string>(words), {}));
-  }
+  for (const std::string& line : Pieces(contents, "\n")) offer(Pieces(line, " \t"));
 }
 
 bool IsUpWithGateway(const std::string& flags) {

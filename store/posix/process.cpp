@@ -30,6 +30,14 @@ bool HasFile(const std::filesystem::path& folder, const char* name) {
   return access(path.c_str(), F_OK) == 0;
 }
 
+File OpenToRead(const std::filesystem::path& path) {
+  return File(std::fopen(path.c_str(), "rb"));
+}
+
+File OpenToWrite(const std::filesystem::path& path) {
+  return File(std::fopen(path.c_str(), "wb"));
+}
+
 std::optional<std::string> EnvironmentText(const char* name) {
   const char* value = std::getenv(name);
   if (value == nullptr || *value == '\0') return std::nullopt;

@@ -29,6 +29,14 @@ bool HasFile(const std::filesystem::path& folder, const char* name) {
   return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
+File OpenToRead(const std::filesystem::path& path) {
+  return File(_wfopen(path.c_str(), L"rb"));
+}
+
+File OpenToWrite(const std::filesystem::path& path) {
+  return File(_wfopen(path.c_str(), L"wb"));
+}
+
 std::optional<std::string> EnvironmentText(const char* name) {
   const std::wstring wideName(name, name + std::char_traits<char>::length(name));
   std::wstring value(GetEnvironmentVariableW(wideName.c_str(), nullptr, 0), L'\0');

@@ -22,7 +22,7 @@ inline constexpr HRESULT kTooSmall = static_cast<HRESULT>(0x8004103C);
 
 /// A schema from one MOF text.
 inline std::shared_ptr<const Schema> SchemaFromText(std::string_view text) {
-  const Schema::Source source{"test.mof", text};
+  const MofSource source{"test.mof", text};
   return std::make_shared<const Schema>(Schema::FromSources({&source, 1}));
 }
 

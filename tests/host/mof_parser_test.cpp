@@ -6,10 +6,8 @@
 namespace tqcim::host {
 namespace {
 
-const std::string kFile = "x.mof";
-
 MofDocument Parse(std::string_view text) {
-  return ParseMof(kFile, text);
+  return ParseMof({"x.mof", text});
 }
 
 std::string MofErrorOf(std::string_view text) {
@@ -21,7 +19,7 @@ std::string MofErrorOf(std::string_view text) {
   return "no error";
 }
 
-const ParsedProperty& OnlyProperty(const MofDocument& document) {
+const PropertyDefinition& OnlyProperty(const MofDocument& document) {
   return document.classes.at(0).properties.at(0);
 }
 
@@ -44,9 +42,9 @@ TEST(MofParser, ReadsAClassWithItsSuperclassQualifiersAndProperties) {
   EXPECT_EQ("Base", parsed.superclass);
   ASSERT_EQ(3u, parsed.qualifiers.size());
   EXPECT_EQ("Abstract", parsed.qualifiers[0].name);
-  EXPECT_EQ(Value(true), parsed.qualifiers[0].value);
-  EXPECT_EQ(Value("one text"), parsed.qualifiers[1].value);
-  EXPECT_EQ(Value("2"), parsed.qualifiers[2].value);
+  EXPECT_EQ(Value(true), parsed.qualifiers[0].value());
+  EXPECT_EQ(Value("one text"), parsed.qualifiers[1].value());
+  EXPECT_EQ(Value("2"), parsed.qualifiers[2].value());
   ASSERT_EQ(4u, parsed.properties.size());
   EXPECT_EQ("Name", parsed.properties[0].name);
   EXPECT_EQ(CimType::kString, parsed.properties[0].type);
@@ -58,6 +56,23 @@ TEST(MofParser, ReadsAClassWithItsSuperclassQualifiersAndProperties) {
   EXPECT_TRUE(parsed.properties[2].array);
   EXPECT_EQ(CimType::kReference, parsed.properties[3].type);
   EXPECT_EQ("Lid", parsed.properties[3].reference_class);
+}
+
+TEST(MofParser, GivesTheValueOfAQualifierWhenItIsAskedFor) {
+  const MofDocument document = Parse(R"(
+      instance of Base as $One {};
+      [Alias($One), Off(false), None(NULL), Code('A'), Many{1, -2, "two /*\x41"  /* joined */ "!"},
+       Empty{}, Real(2.5)]
+      class Lid {};)");
+  const std::vector<Qualifier>& qualifiers = document.classes.at(0).qualifiers;
+  const auto value_of = [&](const char* name) { return FindQualifier(qualifiers, name)->value(); };
+  EXPECT_EQ(Value("$One"), value_of("alias"));
+  EXPECT_EQ(Value(false), value_of("Off"));
+  EXPECT_EQ(Value(), value_of("None"));
+  EXPECT_EQ(Value(int64_t{65}), value_of("Code"));
+  EXPECT_EQ(Value(Array{int64_t{1}, int64_t{-2}, std::string("two /*A!")}), value_of("Many"));
+  EXPECT_EQ(Value(Array{}), value_of("Empty"));
+  EXPECT_EQ(Value(2.5), value_of("Real"));
 }
 
 TEST(MofParser, KnowsEveryScalarTypeInAnyCase) {
@@ -117,12 +132,12 @@ TEST(MofParser, ReadsInstancesWithAliases) {
   ASSERT_EQ(2u, document.instances.size());
   EXPECT_EQ("__Win32Provider", document.instances[0].class_name);
   ASSERT_EQ(4u, document.instances[0].assignments.size());
-  EXPECT_EQ("Name", document.instances[0].assignments[0].property);
-  EXPECT_EQ(Value("n"), document.instances[0].assignments[0].value);
-  EXPECT_EQ(Value(Array{int64_t{1}, int64_t{2}}), document.instances[0].assignments[1].value);
-  EXPECT_EQ(Value(true), document.instances[0].assignments[2].value);
-  EXPECT_EQ(Value(), document.instances[0].assignments[3].value);
-  EXPECT_EQ(Value("$P"), document.instances[1].assignments[0].value);
+  EXPECT_EQ("Name", document.instances[0].assignments[0].first);
+  EXPECT_EQ(Value("n"), document.instances[0].assignments[0].second);
+  EXPECT_EQ(Value(Array{int64_t{1}, int64_t{2}}), document.instances[0].assignments[1].second);
+  EXPECT_EQ(Value(true), document.instances[0].assignments[2].second);
+  EXPECT_EQ(Value(), document.instances[0].assignments[3].second);
+  EXPECT_EQ(Value("$P"), document.instances[1].assignments[0].second);
 }
 
 TEST(MofParser, NamesThePlaceAndTheReasonOfAnError) {
@@ -135,6 +150,10 @@ TEST(MofParser, NamesThePlaceAndTheReasonOfAnError) {
        "the text"},
       {"class 5 {};", "x.mof:1:7: the name of a class should stand here, not a number"},
       {"[Key, key] class A {};", "x.mof:1:7: qualifier key stands twice"},
+      {"\xEF\xBB\xBF[Key, key] class A {};", "x.mof:1:7: qualifier key stands twice"},
+      {"[Note(\"\\q\")] class A {};", "x.mof:1:8: MOF has no such escape"},
+      {"[Note{1, 0x}] class A {};", "x.mof:1:10: '0x' is not a number that fits 64 bits"},
+      {"[Note($Q)] class A {};", "x.mof:1:8: alias $Q is not declared"},
       {"[Key(] class A {};", "x.mof:1:6: a value should stand here, not ']'"},
       {"[Key] instance of A {};",
        "x.mof:1:7: a class, an instance or a directive should stand here, not 'instance'"},

@@ -38,9 +38,8 @@ TEST(OddObjectPath, ANumberHasOneSign) {
 
 TEST(OddMof, AWordLongerThanAnyNameIsRefusedInAShortSentence) {
   const auto error = [](const std::string& text) -> std::string {
-    const std::string file = "x.mof";
     try {
-      ParseMof(file, text);
+      ParseMof({"x.mof", text});
     } catch (const MofError& refusal) {
       return refusal.what();
     }

@@ -60,7 +60,7 @@ std::vector<std::string> ServedClasses() {
   std::vector<std::string> names;
   const Schema schema = Schema::Embedded();
   for (const ClassDefinition& definition : schema.Classes()) {
-    if (!definition.provider.empty()) names.push_back(definition.name);
+    if (!definition.provider.empty()) names.emplace_back(definition.name);
   }
   return names;
 }

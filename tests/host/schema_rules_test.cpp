@@ -9,7 +9,7 @@ namespace tqcim::host {
 namespace {
 
 Schema FromText(std::string_view text) {
-  const Schema::Source source{"x.mof", text};
+  const MofSource source{"x.mof", text};
   return Schema::FromSources({&source, 1});
 }
 
@@ -24,7 +24,7 @@ std::string SchemaErrorOf(std::string_view text) {
 
 std::vector<std::string> PropertyNames(const ClassDefinition& definition) {
   std::vector<std::string> names;
-  for (const auto& property : definition.properties) names.push_back(property->name);
+  for (const auto& property : definition.properties) names.emplace_back(property->name);
   return names;
 }
 

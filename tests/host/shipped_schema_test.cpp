@@ -18,7 +18,7 @@ const Schema& Shipped() {
 std::set<std::string> KeysOf(const ClassDefinition& definition) {
   std::set<std::string> keys;
   for (const auto& property : definition.properties) {
-    if (property->key) keys.insert(property->name);
+    if (property->key) keys.emplace(property->name);
   }
   return keys;
 }
@@ -29,7 +29,7 @@ TEST(ShippedSchema, ServesTheClassesOfTheProvider) {
     if (definition.provider.empty()) continue;
     EXPECT_EQ("tqcim", definition.provider) << definition.name;
     EXPECT_NE(nullptr, FindQualifier(definition.qualifiers, "Dynamic")) << definition.name;
-    served.insert(definition.name);
+    served.emplace(definition.name);
   }
   EXPECT_EQ((std::set<std::string>{"CIM_BIOSElement",
                                    "CIM_CurrentSensor",
@@ -137,8 +137,8 @@ TEST(ShippedSchema, ValueMapsHaveOneWordForEachValue) {
       const Qualifier* values = FindQualifier(property->qualifiers, "Values");
       ASSERT_EQ(map == nullptr, values == nullptr) << definition.name << "." << property->name;
       if (!map) continue;
-      const Array& codes = std::get<Array>(map->value);
-      EXPECT_EQ(codes.size(), std::get<Array>(values->value).size()) << property->name;
+      const Array codes = std::get<Array>(map->value());
+      EXPECT_EQ(codes.size(), std::get<Array>(values->value()).size()) << property->name;
       EXPECT_EQ(codes.size(), std::set<Scalar>(codes.begin(), codes.end()).size())
           << property->name;
     }
@@ -146,7 +146,7 @@ TEST(ShippedSchema, ValueMapsHaveOneWordForEachValue) {
 }
 
 TEST(ShippedSchema, ClassesStandAfterTheirSuperclasses) {
-  std::set<std::string> seen;
+  std::set<std::string_view> seen;
   for (const ClassDefinition& definition : Shipped().Classes()) {
     EXPECT_TRUE(definition.superclass.empty() || seen.contains(definition.superclass))
         << definition.name;

@@ -13,16 +13,17 @@ namespace tqcim::testing {
 namespace {
 
 using host::ClassDefinition;
+using host::MofSource;
 using host::PropertyDefinition;
 using host::Qualifier;
 using host::Schema;
 
 void ExpectSame(const std::vector<Qualifier>& expected, const std::vector<Qualifier>& actual,
-                const std::string& owner) {
+                std::string_view owner) {
   ASSERT_EQ(expected.size(), actual.size()) << owner;
   for (size_t i = 0; i < expected.size(); ++i) {
     EXPECT_EQ(expected[i].name, actual[i].name) << owner;
-    EXPECT_TRUE(expected[i].value == actual[i].value) << owner << " " << expected[i].name;
+    EXPECT_TRUE(expected[i].value() == actual[i].value()) << owner << " " << expected[i].name;
   }
 }
 
@@ -37,12 +38,13 @@ void ExpectSame(const ClassDefinition& expected, const ClassDefinition& actual) 
     EXPECT_EQ(one.name, other.name) << expected.name;
     EXPECT_EQ(one.TypeText(), other.TypeText()) << expected.name << "." << one.name;
     EXPECT_TRUE(one.default_value == other.default_value) << expected.name << "." << one.name;
-    ExpectSame(one.qualifiers, other.qualifiers, expected.name + "." + one.name);
+    ExpectSame(one.qualifiers, other.qualifiers,
+               std::string(expected.name).append(".").append(one.name));
   }
 }
 
 void ExpectShipped(std::string_view text) {
-  const Schema::Source source{"tqcim.mof", text};
+  const MofSource source{"tqcim.mof", text};
   const Schema assembled = Schema::FromSources({&source, 1});
   const Schema shipped = Schema::Embedded();
   ASSERT_EQ(shipped.Classes().size(), assembled.Classes().size());
@@ -85,7 +87,7 @@ std::vector<std::string> DeletedClasses(const std::string& text) {
 TEST(RemovalMof, NamesEveryClassOnceAssociationsFirstSubclassesBeforeSuperclasses) {
   const std::vector<std::string> deleted =
       DeletedClasses(ContentsOf(TQCIM_BUILD "/tqcim-remove.mof"));
-  std::map<std::string, size_t> places;
+  std::map<std::string_view, size_t> places;
   for (const std::string& name : deleted) {
     EXPECT_TRUE(places.emplace(name, places.size()).second) << name;
   }
@@ -126,9 +128,8 @@ TEST(RemovalMof, BeginsWithTheRegistrationAndEndsWithTheNamespace) {
 }
 
 TEST(RemovalMof, IsValidAndMakesNothing) {
-  const std::string file = "tqcim-remove.mof";
-  const host::MofDocument document =
-      host::ParseMof(file, ContentsOf(TQCIM_BUILD "/tqcim-remove.mof"));
+  const std::string text = ContentsOf(TQCIM_BUILD "/tqcim-remove.mof");
+  const host::MofDocument document = host::ParseMof({"tqcim-remove.mof", text});
   EXPECT_TRUE(document.classes.empty());
   EXPECT_TRUE(document.instances.empty());
 }

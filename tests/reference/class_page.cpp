@@ -15,17 +15,17 @@ std::string Cell(std::string_view text) {
   return cell;
 }
 
-std::string Code(const std::string& name) {
-  return "`" + name + "`";
+std::string Code(std::string_view name) {
+  return "`" + std::string(name) + "`";
 }
 
-std::string CodeList(const std::vector<std::string>& names) {
+std::string CodeList(const std::vector<std::string_view>& names) {
   std::string list;
-  for (const std::string& name : names) list += (list.empty() ? "" : ", ") + Code(name);
+  for (const std::string_view name : names) list += (list.empty() ? "" : ", ") + Code(name);
   return list.empty() ? "none" : list;
 }
 
-const std::string* SourceOf(const ClassNotes& notes, const std::string& property) {
+const std::string* SourceOf(const ClassNotes& notes, std::string_view property) {
   const auto found = std::ranges::find_if(
       notes.values, [&](const auto& value) { return host::EqualNames(value.first, property); });
   return found == notes.values.end() ? nullptr : &found->second;
@@ -37,19 +37,19 @@ std::string Kind(const host::ClassDefinition& definition) {
 }
 
 std::string Facts(const host::ClassDefinition& definition, const ClassNotes& notes) {
-  std::vector<std::string> keys;
+  std::vector<std::string_view> keys;
   for (const auto& property : definition.properties) {
     if (property->key) keys.push_back(property->name);
   }
   return "| | |\n|---|---|\n| kind | " + Kind(definition) + " |\n| superclass | " +
          Code(definition.superclass) + " |\n| keys | " + CodeList(keys) + " |\n| store objects | " +
-         CodeList(notes.objects) + " |\n";
+         CodeList({notes.objects.begin(), notes.objects.end()}) + " |\n";
 }
 
 std::string PropertyRows(const host::ClassDefinition& definition, const ClassNotes& notes) {
   std::string text =
       "| property | type | unit | meaning | where the value comes from |\n|---|---|---|---|---|\n";
-  std::vector<std::string> empty;
+  std::vector<std::string_view> empty;
   for (const auto& property : definition.properties) {
     const std::string* source = SourceOf(notes, property->name);
     if (source == nullptr) {
@@ -64,17 +64,19 @@ std::string PropertyRows(const host::ClassDefinition& definition, const ClassNot
   return text;
 }
 
-const host::Array* FindArray(const host::PropertyDefinition& property, std::string_view name) {
+host::Value ValueOf(const host::PropertyDefinition& property, std::string_view name) {
   const host::Qualifier* qualifier = host::FindQualifier(property.qualifiers, name);
-  return qualifier ? std::get_if<host::Array>(&qualifier->value) : nullptr;
+  return qualifier ? qualifier->value() : host::Value();
 }
 
 /// The meanings of the codes of the given properties.
 std::string CodeTables(const host::ClassDefinition& definition, const ClassNotes& notes) {
   std::string text;
   for (const auto& property : definition.properties) {
-    const host::Array* codes = FindArray(*property, "ValueMap");
-    const host::Array* words = FindArray(*property, "Values");
+    const host::Value code_list = ValueOf(*property, "ValueMap");
+    const host::Value word_list = ValueOf(*property, "Values");
+    const auto* codes = std::get_if<host::Array>(&code_list);
+    const auto* words = std::get_if<host::Array>(&word_list);
     if (!codes || !words || !SourceOf(notes, property->name)) continue;
     text += "\n" + Code(property->name) + ":";
     for (size_t i = 0; i < codes->size(); ++i) {
@@ -90,19 +92,19 @@ std::string CodeTables(const host::ClassDefinition& definition, const ClassNotes
 
 std::string ClassPage(const host::ClassDefinition& definition, const ClassNotes& notes,
                       const std::string& example) {
-  return "# " + definition.name + "\n\n" + std::string(definition.Description()) + "\n\n" +
+  return "# " + std::string(definition.name) + "\n\n" + definition.Description() + "\n\n" +
          Facts(definition, notes) + "\n" + notes.from + "\n\n## What to alert on\n\n" +
          notes.alert + "\n\n## Properties\n\n" + PropertyRows(definition, notes) +
          CodeTables(definition, notes) +
          "\n## Example\n\nThe first instance of the embedded sample, an invented server, on a "
          "computer named SERVER:\n\n```\n$ tqcim list " +
-         definition.name + " --format json\n" + example + "```\n";
+         std::string(definition.name) + " --format json\n" + example + "```\n";
 }
 
 std::string IndexLine(const host::ClassDefinition& definition) {
-  const std::string text(definition.Description());
-  return "- [" + definition.name + "](" + definition.name +
-         ".md): " + text.substr(0, text.find(". ")) +
+  const std::string text = definition.Description();
+  const std::string name(definition.name);
+  return "- [" + name + "](" + name + ".md): " + text.substr(0, text.find(". ")) +
          (text.find(". ") == std::string::npos ? "\n" : ".\n");
 }
 

@@ -21,7 +21,7 @@ Names SchemaNames() {
   Names names;
   const host::Schema schema = host::Schema::Embedded();
   for (const host::ClassDefinition& definition : schema.Classes()) {
-    if (!definition.provider.empty()) names.insert(definition.name);
+    if (!definition.provider.empty()) names.emplace(definition.name);
   }
   return names;
 }

@@ -10,21 +10,22 @@ namespace {
 
 /// One class: its name and superclass, then a line for each property, the keys marked.
 std::string TextOf(const host::ClassDefinition& definition) {
-  std::string text = definition.name;
-  if (!definition.superclass.empty()) text += " : " + definition.superclass;
+  std::string text(definition.name);
+  if (!definition.superclass.empty()) text.append(" : ").append(definition.superclass);
   if (definition.association) text += " (association)";
   if (definition.singleton) text += " (singleton)";
   for (const auto& property : definition.properties) {
-    text += "\n  " + property->name + " " + property->TypeText() + (property->key ? " key" : "");
+    text.append("\n  ").append(property->name).append(" ").append(property->TypeText());
+    if (property->key) text += " key";
   }
   return text + "\n";
 }
 
 /// The registration of the namespace and of the provider.
 std::string TextOf(const host::DeclaredInstance& instance) {
-  std::string text = "instance of " + instance.class_name;
+  std::string text = "instance of " + std::string(instance.class_name);
   for (const auto& [property, value] : instance.properties) {
-    text += "\n  " + property + " = " + tools::PlainText(value);
+    text.append("\n  ").append(property).append(" = ").append(tools::PlainText(value));
   }
   return text + "\n";
 }

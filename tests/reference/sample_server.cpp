@@ -18,7 +18,7 @@ std::vector<std::string> SampleServer::ClassNames() {
   std::vector<std::string> names;
   const host::Schema schema = host::Schema::Embedded();
   for (const host::ClassDefinition& definition : schema.Classes()) {
-    if (!definition.provider.empty()) names.push_back(definition.name);
+    if (!definition.provider.empty()) names.emplace_back(definition.name);
   }
   return names;
 }
