@@ -56,24 +56,22 @@ std::optional<size_t> LengthOfUtf16(const std::byte* utf16, size_t room) {
 class Store::ReadSection {
  public:
   explicit ReadSection(const Store& store) {
-    ReaderCounts& counts = store.readers_[ShardOfThread()];
-    for (;;) {
-      const uint64_t epoch = store.epoch_.load();
-      count_ = &counts.of[epoch % 2];
-      count_->fetch_add(1);
-      if (store.epoch_.load() == epoch) break;
-      count_->fetch_sub(1);
+    const uint64_t epoch = store.epoch_.load();
+    for (size_t slot = ShardOfThread() * (kReaders / kShards);; ++slot) {
+      reader_ = &store.readers_[slot % kReaders];
+      uint64_t none = 0;
+      if (reader_->epoch.compare_exchange_strong(none, epoch)) break;
     }
     view_ = store.view_.load();
   }
-  ~ReadSection() { count_->fetch_sub(1); }
+  ~ReadSection() { reader_->epoch.store(0, std::memory_order_release); }
   ReadSection(const ReadSection&) = delete;
   ReadSection& operator=(const ReadSection&) = delete;
 
   const View* operator->() const { return view_; }
 
  private:
-  std::atomic<uint32_t>* count_;
+  Reader* reader_;
   const View* view_;
 };
 
@@ -195,9 +193,13 @@ void Store::InstallView(Snapshot* current) {
 }
 
 void Store::WaitForReaders() {
-  const uint64_t old = epoch_.fetch_add(1);
-  for (const ReaderCounts& counts : readers_) {
-    while (counts.of[old % 2].load() != 0) std::this_thread::yield();
+  const uint64_t last = epoch_.fetch_add(1);
+  const auto sees_old_view = [last](const Reader& reader) {
+    const uint64_t epoch = reader.epoch.load();
+    return epoch != 0 && epoch <= last;
+  };
+  for (const Reader& reader : readers_) {
+    while (sees_old_view(reader)) std::this_thread::yield();
   }
 }
 

@@ -79,14 +79,17 @@ class Store {
   std::atomic<const View*> view_;
   /// Whether there has been a snapshot: from then on there is always one.
   std::atomic<bool> opened_{false};
-  /// Readers register in the slot of the epoch's parity. A refresh starts the next epoch and waits
-  /// until the old slot is empty: then nobody sees the old view any more, and readers that keep
+  /// A reader writes the epoch into a free slot, and 0 when it leaves: a slot is one reader's, so
+  /// that only to come costs a locked instruction. A refresh starts the next epoch and waits for
+  /// the readers of those before: then nobody sees the old view any more, and readers that keep
   /// coming can't hold the refresh up.
-  std::atomic<uint64_t> epoch_{0};
-  struct alignas(kCacheLine) ReaderCounts {
-    std::array<std::atomic<uint32_t>, 2> of{};
+  std::atomic<uint64_t> epoch_{1};
+  struct alignas(kCacheLine) Reader {
+    std::atomic<uint64_t> epoch{0};
   };
-  mutable std::array<ReaderCounts, kShards> readers_{};
+  /// Many more than there are processors: a thread that is interrupted keeps its slot.
+  static constexpr size_t kReaders = 16 * kShards;
+  mutable std::array<Reader, kReaders> readers_{};
 
   mutable std::mutex refresh_;
   std::vector<std::unique_ptr<Snapshot>> snapshots_;

@@ -24,9 +24,9 @@ std::filesystem::path LibraryFolder() {
 }
 
 bool HasFile(const std::filesystem::path& folder, const char* name) {
-  std::string path = folder.native();
-  path += '/';
-  path += name;
+  std::string path;
+  path.reserve(folder.native().size() + 1 + std::char_traits<char>::length(name));
+  path.append(folder.native()).append("/").append(name);
   return access(path.c_str(), F_OK) == 0;
 }
 
