@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <initializer_list>
+#include <set>
 #include <tuple>
 
 #include "tests/support/handler_test.h"
@@ -209,6 +211,27 @@ TEST_F(VornNetworkPortTest, BothIniFilesAreReadAgainForEveryAdapterTheSecondFile
                 "ini tqisst64.ini [Network Information] nicipinfo.cimsnmp.disabled",
                 "ini tqisdy64.ini [Network Information] nicipinfo.cimsnmp.disabled"}),
             reads);
+}
+
+TEST_F(VornNetworkPortTest, TheSwitchMayChangeBetweenTwoAdapters) {
+  store.Add(100, 96).Utf8(216, "192.0.2.11");
+  sink.AtIndicate([this] { SetSwitch("tqisdy64.ini", DeliveredCount() == 0 ? 1 : 0); });
+  EXPECT_EQ(0, Enumerate("VORN_NetworkPort"));
+  EXPECT_EQ("192.0.2.10", Value(0, "IPAddress"));
+  EXPECT_EQ("<absent>", Value(1, "IPAddress"));
+}
+
+TEST_F(VornNetworkPortTest, ThePermanentAddressIsReadForEachOfItsTwoProperties) {
+  store.List(2, 96, {101});
+  store.RecordCalls();
+  Enumerate("VORN_NetworkPort");
+  // Reads of one text are calls with one offset.
+  std::multiset<std::ptrdiff_t> reads;
+  const std::vector<std::string>& calls = store.Calls();
+  for (const std::string& call : std::set<std::string>(calls.begin(), calls.end())) {
+    if (call.starts_with("text ")) reads.insert(std::count(calls.begin(), calls.end(), call));
+  }
+  EXPECT_EQ((std::multiset<std::ptrdiff_t>{1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 2}), reads);
 }
 
 TEST_F(VornNetworkPortTest, TheSwitchInTheFirstFileHidesTheIpPropertiesOfEveryPort) {

@@ -1,4 +1,5 @@
 // Registration in the machine's registry, and its removal.
+#include <functional>
 #include <thread>
 
 #include "platform/com.h"
@@ -6,6 +7,7 @@
 #include "tests/core/windows/registered_server.h"
 #include "tests/support/fake_services.h"
 #include "tests/support/handler_test.h"
+#include "tests/support/windows/open_handles.h"
 
 namespace tqcim::testing {
 namespace {
@@ -23,7 +25,9 @@ class RegistrationTest : public ::testing::Test {
   FakeServices services;
   FakeLocator locator{services};
   HRESULT locatorCreation = S_OK;
+  std::function<void()> atLocatorCreation = [] {};
   FakeFactory factory{[this](REFIID iid, void** object) {
+    atLocatorCreation();
     return SUCCEEDED(locatorCreation) ? locator.QueryInterface(iid, object) : locatorCreation;
   }};
   ClassRegistration locatorRegistration{CLSID_WbemLocator, factory};
@@ -97,6 +101,27 @@ TEST_F(RegistrationTest, WithoutAConnectionNothingIsDeleted) {
   }
   EXPECT_EQ(2u, locator.Paths().size());
   EXPECT_TRUE(services.DeleteCalls().empty());
+}
+
+TEST_F(RegistrationTest, RemovalCleansTheRegistryBeforeItAsksForTheNamespace) {
+  module.RegisterServer();
+  bool registered = true;
+  atLocatorCreation = [&] { registered = Exists(kClsidKey); };
+  module.UnregisterServer();
+  EXPECT_FALSE(registered);
+}
+
+TEST_F(RegistrationTest, LeavesNoKeyOpen) {
+  const auto repeat = [this] {
+    for (int i = 0; i < 20; ++i) {
+      module.RegisterServer();
+      module.UnregisterServer();
+    }
+  };
+  repeat();
+  const size_t before = CountOpenHandles();
+  repeat();
+  EXPECT_EQ(before, CountOpenHandles());
 }
 
 TEST_F(RegistrationTest, WithoutALocatorTheRegistryIsCleanedAllTheSame) {
