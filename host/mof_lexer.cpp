@@ -80,7 +80,8 @@ std::optional<Scalar> RealOf(std::string_view digits, bool negative) {
 /// Nothing if it is none, or too large.
 std::optional<Scalar> NumberOf(std::string_view text) {
   const bool negative = text.starts_with('-');
-  const std::string_view digits = text.substr(negative || text.starts_with('+') ? 1 : 0);
+  std::string_view digits = text;
+  if (negative || text.starts_with('+')) digits.remove_prefix(1);
   return digits.find('.') == std::string_view::npos ? IntegerOf(digits, negative)
                                                     : RealOf(digits, negative);
 }
