@@ -15,7 +15,7 @@
 
 namespace tqcim::store {
 
-/// Readers take no locks and never wait: they enter a section, which only a refresh waits for.
+/// Readers take no locks: they enter a section, which only a refresh waits for.
 ///
 /// An OID that stands in a list which a caller still holds stays readable after a refresh: what the
 /// snapshot in service doesn't know is looked for in the retired snapshots that are still held.
@@ -87,7 +87,8 @@ class Store {
   struct alignas(kCacheLine) Reader {
     std::atomic<uint64_t> epoch{0};
   };
-  /// Many more than there are processors: a thread that is interrupted keeps its slot.
+  /// More than there are readers inside at once, who stay for some hundred instructions: a reader
+  /// would wait for a free one.
   static constexpr size_t kReaders = 16 * kShards;
   mutable std::array<Reader, kReaders> readers_{};
 

@@ -2,11 +2,24 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <set>
 #include <thread>
 #include <vector>
 
 namespace tqcim::testing {
 namespace {
+
+TEST(Shards, EightNeighbouringStacksHaveEightOfThem) {
+  for (const uint64_t stack : {uint64_t{1} << 20, uint64_t{2} << 20, uint64_t{8} << 20}) {
+    for (uint64_t begin = 0x7F0000000000; begin < 0x7F0100000000; begin += 0x01234000) {
+      std::set<size_t> shards;
+      for (uint64_t i = 0; i < 8; ++i) shards.insert(ShardOfPlace(begin + i * stack));
+      EXPECT_EQ(8u, shards.size()) << stack << " " << begin;
+      EXPECT_GT(16u, *shards.rbegin());
+    }
+  }
+}
 
 TEST(ShardedCount, CountsWhatManyThreadsCountUpAndDown) {
   constexpr int kThreads = 4;
