@@ -17,6 +17,7 @@
 #include "bench/requests.h"
 #include "bench/scaled_server.h"
 #include "bench/timing.h"
+#include "bench/two_processes.h"
 #include "core/class_registry.h"
 #include "core/module.h"
 
@@ -138,37 +139,14 @@ double SecondsOf(const std::function<void()>& work) {
   return std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
 }
 
-using TwoWorks = std::pair<std::function<void()>, std::function<void()>>;
-
-/// How much sooner two works are done on two threads at once than one after the other.
-double GainOfTwoThreads(const TwoWorks& works) {
-  const double in_turn = SecondsOf([&] {
-    works.first();
-    works.second();
-  });
-  const double together = SecondsOf([&] {
-    std::thread other(works.second);
-    works.first();
-    other.join();
-  });
-  return in_turn / together;
-}
-
 double Median(std::vector<double> values) {
   const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
   std::ranges::nth_element(values, middle);
   return *middle;
 }
 
-/// Shares nothing with anybody: what two threads of it reach is what the machine has to give.
-void Count() {
-  constexpr int kSteps = 20'000'000;
-  volatile int steps = 0;
-  while (steps < kSteps) steps = steps + 1;
-}
-
 void PrintThreads() {
-  std::printf("| class | two threads against one | two that only count |\n|---|--:|--:|\n");
+  std::printf("| class | two threads against one | two processes against one |\n|---|--:|--:|\n");
   for (const std::string& name : ClassNames()) {
     if (!OpenScaledServer(name, 1000)) continue;
     // Every request has a definition of its own.
@@ -182,15 +160,22 @@ void PrintThreads() {
         for (size_t i = 0; i < enumerations; ++i) provided.Enumerate();
       };
     };
+    const auto [one, other] = std::pair(enumerate(first), enumerate(second));
     // A machine that is fast for seconds and slow for seconds is one or the other for a round.
     constexpr int kRounds = 15;
-    std::vector<double> gains;
-    std::vector<double> counting;
+    std::vector<double> threads;
+    std::vector<double> processes;
     for (int round = 0; round < kRounds; ++round) {
-      gains.push_back(GainOfTwoThreads({enumerate(first), enumerate(second)}));
-      counting.push_back(GainOfTwoThreads({Count, Count}));
+      const double in_turn = SecondsOf([&] { one(), other(); });
+      threads.push_back(in_turn / SecondsOf([&] {
+                          std::thread thread(other);
+                          one();
+                          thread.join();
+                        }));
+      // They share nothing: what they reach is what the machine has to give.
+      processes.push_back(in_turn / SecondsOf([&] { RunInTwoProcesses(one, other); }));
     }
-    std::printf("| `%s` | %.2f | %.2f |\n", name.c_str(), Median(gains), Median(counting));
+    std::printf("| `%s` | %.2f | %.2f |\n", name.c_str(), Median(threads), Median(processes));
     std::fflush(stdout);
   }
 }
