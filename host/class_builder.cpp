@@ -11,8 +11,7 @@ namespace tqcim::host {
 namespace {
 
 bool QualifierIsSet(const std::vector<Qualifier>& qualifiers, std::string_view name) {
-  const Qualifier* qualifier = FindQualifier(qualifiers, name);
-  return qualifier && qualifier->value() == Value(true);
+  return QualifierValue(qualifiers, name) == Value(true);
 }
 
 /// A property that a subclass declares again: its type and its origin stay, the rest may change.

@@ -36,9 +36,13 @@ const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::st
   return found == qualifiers.end() ? nullptr : &*found;
 }
 
-std::string QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name) {
+Value QualifierValue(const std::vector<Qualifier>& qualifiers, std::string_view name) {
   const Qualifier* qualifier = FindQualifier(qualifiers, name);
-  const Value value = qualifier ? qualifier->value() : Value();
+  return qualifier ? qualifier->value() : Value();
+}
+
+std::string QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name) {
+  const Value value = QualifierValue(qualifiers, name);
   const auto* text = std::get_if<std::string>(&value);
   return text ? *text : std::string();
 }

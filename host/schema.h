@@ -48,6 +48,8 @@ struct Qualifier {
 
 /// The qualifier of that name in any case, or null.
 const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::string_view name);
+/// Its value; null without it.
+Value QualifierValue(const std::vector<Qualifier>& qualifiers, std::string_view name);
 /// Its text; empty without it.
 std::string QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name);
 

@@ -34,8 +34,7 @@ std::string ScalarText(const host::Scalar& scalar) {
 
 /// The texts of a qualifier that is an array of them; none without it.
 host::Array ListOf(const host::PropertyDefinition& property, std::string_view qualifier) {
-  const host::Qualifier* found = host::FindQualifier(property.qualifiers, qualifier);
-  const host::Value value = found ? found->value() : host::Value();
+  const host::Value value = host::QualifierValue(property.qualifiers, qualifier);
   const auto* list = std::get_if<host::Array>(&value);
   return list ? *list : host::Array();
 }

@@ -64,17 +64,12 @@ std::string PropertyRows(const host::ClassDefinition& definition, const ClassNot
   return text;
 }
 
-host::Value ValueOf(const host::PropertyDefinition& property, std::string_view name) {
-  const host::Qualifier* qualifier = host::FindQualifier(property.qualifiers, name);
-  return qualifier ? qualifier->value() : host::Value();
-}
-
 /// The meanings of the codes of the given properties.
 std::string CodeTables(const host::ClassDefinition& definition, const ClassNotes& notes) {
   std::string text;
   for (const auto& property : definition.properties) {
-    const host::Value code_list = ValueOf(*property, "ValueMap");
-    const host::Value word_list = ValueOf(*property, "Values");
+    const host::Value code_list = host::QualifierValue(property->qualifiers, "ValueMap");
+    const host::Value word_list = host::QualifierValue(property->qualifiers, "Values");
     const auto* codes = std::get_if<host::Array>(&code_list);
     const auto* words = std::get_if<host::Array>(&word_list);
     if (!codes || !words || !SourceOf(notes, property->name)) continue;
