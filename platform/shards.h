@@ -21,8 +21,8 @@ constexpr size_t ShardOfPlace(uint64_t place) {
   return (place >> kLeastStackBits) * kGoldenRatio >> (64 - kShardBits);
 }
 
-/// The shard for the calling thread, mostly another for another thread. A thread may be told another
-/// one later.
+/// The shard for the calling thread, mostly another for another thread. A thread may be told
+/// another one later.
 inline size_t ShardOfThread() {
   return ShardOfPlace(reinterpret_cast<uintptr_t>(__builtin_frame_address(0)));
 }
