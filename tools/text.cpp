@@ -42,11 +42,11 @@ host::Array ListOf(const host::PropertyDefinition& property, std::string_view qu
 /// What a code stands for, by the class's ValueMap and Values; empty where they don't tell.
 std::string ListedMeaning(const std::string& code, const host::PropertyDefinition& property) {
   const host::Array codes = ListOf(property, "ValueMap");
-  const host::Array meanings = ListOf(property, "Values");
   const auto found = std::find(codes.begin(), codes.end(), host::Scalar(code));
+  if (found == codes.end()) return {};
+  const host::Array meanings = ListOf(property, "Values");
   const auto position = static_cast<size_t>(found - codes.begin());
-  return position < std::min(codes.size(), meanings.size()) ? ScalarText(meanings[position])
-                                                            : std::string();
+  return position < meanings.size() ? ScalarText(meanings[position]) : std::string();
 }
 
 /// A number of bytes in the largest unit that divides it; empty below 1 KiB.
@@ -71,7 +71,8 @@ std::string MeaningOf(const host::Scalar& scalar, const host::PropertyDefinition
 std::string ReadableScalar(const host::Scalar& scalar, const host::PropertyDefinition& property,
                            bool with_units) {
   std::string readable = ScalarText(scalar);
-  if (with_units && !property.Units().empty()) readable += ' ' + property.Units();
+  const std::string units = with_units ? property.Units() : std::string();
+  if (!units.empty()) readable += ' ' + units;
   const std::string meaning = MeaningOf(scalar, property);
   if (!meaning.empty()) readable += " (" + meaning + ")";
   return Printable(readable);
