@@ -34,7 +34,7 @@ std::string MacText(std::span<const uint8_t> address) {
 
 /// A system's texts may be anything: what is not text is left out, and the adapter stays.
 void SetKnown(ObjectDraft& draft, const layout::Utf8Field& field, const std::string& text) {
-  const bool isText = text.find('\0') == std::string::npos && Utf16FromUtf8(text);
+  const bool isText = text.find('\0') == std::string::npos && IsUtf8(text);
   if (isText && !text.empty()) draft.Set(field, text);
 }
 

@@ -17,6 +17,8 @@ constexpr size_t kIntermediateOffset = 0x10;
 constexpr size_t kIntermediateLength = 0x0F;
 
 constexpr uint8_t kHeaderLength = 4;
+/// Of a structure with its double zero.
+constexpr size_t kSmallestSize = kHeaderLength + 2;
 constexpr uint8_t kEndOfTable = 127;
 
 bool Begins(Bytes bytes, std::string_view anchor) {
@@ -67,7 +69,7 @@ std::optional<size_t> EndOfStrings(Bytes table, size_t position) {
 
 std::string TextOf(Bytes bytes) {
   std::string text(bytes.begin(), bytes.end());
-  if (!Utf16FromUtf8(text)) {
+  if (!IsUtf8(text)) {
     text.clear();
     for (const uint8_t byte : bytes) {
       text += byte < 0x80 ? std::string(1, static_cast<char>(byte)) : "\xEF\xBF\xBD";
@@ -81,10 +83,10 @@ std::string TextOf(Bytes bytes) {
 
 }  // namespace
 
-std::string PlaceAt(const std::string& file, size_t offset) {
+std::string PlaceAt(std::string_view file, size_t offset) {
   char text[32];
   std::snprintf(text, sizeof(text), ": byte 0x%zX", offset);
-  return file + text;
+  return std::string(file) + text;
 }
 
 bool HasEntryPoint(Bytes bytes) {
@@ -108,6 +110,10 @@ EntryPoint ReadEntryPoint(Bytes bytes, const std::string& file) {
     throw StoreError(PlaceAt(file, 0), "the entry point's checksum is wrong");
   }
   return is64 ? ReadEntryPoint64(bytes) : ReadEntryPoint32(bytes, file);
+}
+
+std::string Structure::Place() const {
+  return PlaceAt(file_, offset_);
 }
 
 std::optional<uint64_t> Structure::Integer(uint8_t offset, uint8_t width) const {
@@ -150,27 +156,29 @@ std::optional<std::string> Structure::String(uint8_t offset) const {
 }
 
 std::vector<Structure> ReadStructures(Bytes table, const EntryPoint& entryPoint,
-                                      const std::string& file, size_t tableOffset) {
+                                      std::string_view file, size_t tableOffset) {
   std::vector<Structure> structures;
+  structures.reserve(
+      std::min<size_t>(entryPoint.structureCount.value_or(0), table.size() / kSmallestSize));
   size_t position = 0;
+  const auto refuse = [&](const std::string& reason) {
+    throw StoreError(PlaceAt(file, tableOffset + position),
+                     "structure " + std::to_string(structures.size()) + " " + reason);
+  };
   while (structures.size() < entryPoint.structureCount.value_or(UINT16_MAX) &&
          position + kHeaderLength <= table.size()) {
-    const std::string place = PlaceAt(file, tableOffset + position);
     const uint8_t length = table[position + 1];
     const bool afterEnd = !structures.empty() && structures.back().Type() == kEndOfTable;
     if (length < kHeaderLength) {
       // Some firmware counts one structure too many and fills the table up behind its end.
       if (afterEnd) break;
-      throw StoreError(place, "structure " + std::to_string(structures.size()) +
-                                  " can't have a length of " + std::to_string(length));
+      refuse("can't have a length of " + std::to_string(length));
     }
     const std::optional<size_t> end = EndOfStrings(table, position + length);
-    if (!end) {
-      throw StoreError(place, "structure " + std::to_string(structures.size()) +
-                                  " reaches past the end of the table");
-    }
+    if (!end) refuse("reaches past the end of the table");
     structures.emplace_back(table.subspan(position, length),
-                            table.subspan(position + length, *end - position - length), place);
+                            table.subspan(position + length, *end - position - length), file,
+                            tableOffset + position);
     position = *end;
     if (!entryPoint.structureCount && structures.back().Type() == kEndOfTable) return structures;
   }

@@ -35,13 +35,13 @@ EntryPoint ReadEntryPoint(Bytes bytes, const std::string& file);
 /// One structure. A field is there only where the structure's own length covers it.
 class Structure {
  public:
-  Structure(Bytes formatted, Bytes strings, std::string place)
-      : formatted_(formatted), strings_(strings), place_(std::move(place)) {}
+  Structure(Bytes formatted, Bytes strings, std::string_view file, size_t offset)
+      : formatted_(formatted), strings_(strings), file_(file), offset_(offset) {}
 
   uint8_t Type() const { return formatted_[0]; }
   uint8_t Length() const { return formatted_[1]; }
   /// File and offset, as errors name them.
-  const std::string& Place() const { return place_; }
+  std::string Place() const;
 
   std::optional<uint8_t> Byte(uint8_t offset) const;
   std::optional<uint16_t> Word(uint8_t offset) const;
@@ -58,18 +58,19 @@ class Structure {
 
   Bytes formatted_;
   Bytes strings_;
-  std::string place_;
+  std::string_view file_;
+  size_t offset_;
 };
 
 /// A table's structures in their order: as many as the entry point counts, else up to the
 /// end-of-table structure (type 127). `tableOffset` is where the table begins in `file`, for
 /// the errors: StoreError "FILE: byte OFFSET: reason" for a table without structures, for a
 /// structure shorter than its own header, and for one that reaches, with its strings, past the end
-/// of the table. The bytes must outlive the structures.
+/// of the table. The bytes and the file's name must outlive the structures.
 std::vector<Structure> ReadStructures(Bytes table, const EntryPoint& entryPoint,
-                                      const std::string& file, size_t tableOffset);
+                                      std::string_view file, size_t tableOffset);
 
 /// "FILE: byte 0xOFFSET".
-std::string PlaceAt(const std::string& file, size_t offset);
+std::string PlaceAt(std::string_view file, size_t offset);
 
 }  // namespace tqcim::store::smbios

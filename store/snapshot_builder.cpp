@@ -109,8 +109,8 @@ void ObjectDraft::Store(uint32_t offset, uint32_t width, uint64_t value) {
 void ObjectDraft::RequireOwnField(const FieldInfo& field) const {
   const bool own =
       std::any_of(layout_->fields.begin(), layout_->fields.end(), [&](const FieldInfo& known) {
-        return std::string_view(known.name) == field.name && known.offset == field.offset &&
-               known.width == field.width && known.kind == field.kind;
+        return known.offset == field.offset && known.width == field.width &&
+               known.kind == field.kind && std::string_view(known.name) == field.name;
       });
   if (!own) throw StoreError(place_, std::string("a ") + layout_->name + " has no " + field.name);
 }

@@ -1,5 +1,6 @@
 #include "store/text.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -58,10 +59,19 @@ char* PutCodePoint(char32_t codePoint, char* utf8) {
 
 }  // namespace
 
+bool IsUtf8(std::string_view text) {
+  for (size_t position = 0; position < text.size();) {
+    if (TakeCodePoint(text, position) == kMalformed) return false;
+  }
+  return true;
+}
+
 std::optional<std::u16string> Utf16FromUtf8(std::string_view utf8) {
-  std::u16string utf16;
-  utf16.reserve(utf8.size());
-  for (size_t position = 0; position < utf8.size();) {
+  // Most texts are ASCII from end to end.
+  const auto ascii_end =
+      std::find_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0x80) != 0; });
+  std::u16string utf16(utf8.begin(), ascii_end);
+  for (auto position = static_cast<size_t>(ascii_end - utf8.begin()); position < utf8.size();) {
     const char32_t codePoint = TakeCodePoint(utf8, position);
     if (codePoint == kMalformed) return std::nullopt;
     if (codePoint < 0x10000) {

@@ -8,8 +8,11 @@
 
 namespace tqcim::store {
 
-/// The text as UTF-16, or nothing where `utf8` is malformed (overlong forms, surrogates and values
-/// past U+10FFFF included).
+/// Whether the text is well-formed UTF-8 (overlong forms, surrogates and values past U+10FFFF are
+/// not).
+bool IsUtf8(std::string_view text);
+
+/// The text as UTF-16, or nothing where it is not well-formed.
 std::optional<std::u16string> Utf16FromUtf8(std::string_view utf8);
 
 /// UTF-8 takes at most so many bytes for a UTF-16 unit.

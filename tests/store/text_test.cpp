@@ -9,6 +9,8 @@ TEST(Text, EveryLengthOfUtf8IsConverted) {
   EXPECT_EQ(Utf16FromUtf8("A\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"), u"A\u00E4\u20AC\xD83D\xDE00");
   EXPECT_EQ(Utf8FromUtf16(u"A\u00E4\u20AC\xD83D\xDE00"), "A\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80");
   EXPECT_EQ(Utf16FromUtf8(""), u"");
+  EXPECT_TRUE(IsUtf8("A\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"));
+  EXPECT_TRUE(IsUtf8(""));
 }
 
 TEST(Text, MalformedUtf8IsRefused) {
@@ -26,7 +28,10 @@ TEST(Text, MalformedUtf8IsRefused) {
       "\xF5\x80\x80\x80",  // a lead that begins nothing
       "\xFF",
   };
-  for (const char* text : malformed) EXPECT_EQ(Utf16FromUtf8(text), std::nullopt) << text;
+  for (const char* text : malformed) {
+    EXPECT_FALSE(IsUtf8(text)) << text;
+    EXPECT_EQ(Utf16FromUtf8(text), std::nullopt) << text;
+  }
 }
 
 TEST(Text, TheLastOfEachLengthIsConverted) {
