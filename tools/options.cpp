@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <array>
+#include <functional>
 #include <map>
 #include <optional>
 #include <vector>
@@ -173,10 +174,12 @@ void AddRegisteredOption(CLI::App& app) {
       ->option_text(" ");
 }
 
-CLI::App* Add(CLI::App& parent, const char* name, const char* description, const char* footer) {
+/// A command whose options are made when it is the one that is given.
+void Add(CLI::App& parent, const char* name, const char* description, const char* footer,
+         const std::function<void(CLI::App&)>& add_options) {
   CLI::App* command = parent.add_subcommand(name, description);
   command->footer(footer);
-  return command;
+  command->preparse_callback([command, add_options](size_t) { add_options(*command); });
 }
 
 /// The commands as CLI11 knows them, and where it puts what it reads.
@@ -192,7 +195,8 @@ class CommandLine {
     app_.require_subcommand(1);
     AddRegisteredOption(app_);
     AddShowCommands();
-    AddStoreCommands();
+    Add(app_, "store", "Make and check store files", kStoreFooter,
+        [this](CLI::App& command) { AddStoreCommands(command); });
   }
 
   Command Read(std::span<const std::string> arguments) {
@@ -224,51 +228,52 @@ class CommandLine {
   }
 
   void AddShowCommands() {
-    CLI::App* classes = Add(
-        app_, "classes", "Every class: how many instances, and the worst status", kClassesFooter);
-    AddSourceOptions(*classes, classes_.source);
-    AddFormatOption(*classes, classes_.format);
-    Choose(*classes, classes_);
-
-    CLI::App* list = Add(app_, "list", "All instances of a class", kListFooter);
-    list->add_option("CLASS", list_.class_name, "the class, in any case")
-        ->option_text(" ")
-        ->required();
-    AddSourceOptions(*list, list_.source);
-    AddFormatOption(*list, list_.format);
-    list->add_flag("--full", list_.full, "no table: every property on a line");
-    Choose(*list, list_);
-
-    CLI::App* get = Add(app_, "get", "The instance that an object path names", kGetFooter);
-    get->add_option("PATH", get_.path, "the object path")->option_text(" ")->required();
-    AddSourceOptions(*get, get_.source);
-    AddFormatOption(*get, get_.format);
-    Choose(*get, get_);
-
-    CLI::App* health = Add(app_, "health", "What is wrong with the system", kHealthFooter);
-    AddSourceOptions(*health, health_.source);
-    AddFormatOption(*health, health_.format, false);
-    Choose(*health, health_);
-
-    CLI::App* everything = Add(app_, "export", "All instances of all classes", kExportFooter);
-    AddSourceOptions(*everything, export_.source);
-    AddOutputOption(*everything, export_.output, "the file to write, not standard output");
-    Choose(*everything, export_);
+    Add(app_, "classes", "Every class: how many instances, and the worst status", kClassesFooter,
+        [this](CLI::App& command) {
+          AddSourceOptions(command, classes_.source);
+          AddFormatOption(command, classes_.format);
+          Choose(command, classes_);
+        });
+    Add(app_, "list", "All instances of a class", kListFooter, [this](CLI::App& command) {
+      command.add_option("CLASS", list_.class_name, "the class, in any case")
+          ->option_text(" ")
+          ->required();
+      AddSourceOptions(command, list_.source);
+      AddFormatOption(command, list_.format);
+      command.add_flag("--full", list_.full, "no table: every property on a line");
+      Choose(command, list_);
+    });
+    Add(app_, "get", "The instance that an object path names", kGetFooter,
+        [this](CLI::App& command) {
+          command.add_option("PATH", get_.path, "the object path")->option_text(" ")->required();
+          AddSourceOptions(command, get_.source);
+          AddFormatOption(command, get_.format);
+          Choose(command, get_);
+        });
+    Add(app_, "health", "What is wrong with the system", kHealthFooter, [this](CLI::App& command) {
+      AddSourceOptions(command, health_.source);
+      AddFormatOption(command, health_.format, false);
+      Choose(command, health_);
+    });
+    Add(app_, "export", "All instances of all classes", kExportFooter, [this](CLI::App& command) {
+      AddSourceOptions(command, export_.source);
+      AddOutputOption(command, export_.output, "the file to write, not standard output");
+      Choose(command, export_);
+    });
   }
 
-  void AddStoreCommands() {
-    CLI::App* store = Add(app_, "store", "Make and check store files", kStoreFooter);
-    store->require_subcommand(1);
-
-    CLI::App* convert =
-        Add(*store, "convert", "Write a firmware table as a store file", kConvertFooter);
-    AddTableOptions(*convert, convert_.source);
-    AddOutputOption(*convert, convert_.output, "the store file to write")->required();
-    Choose(*convert, convert_);
-
-    CLI::App* check = Add(*store, "check", "Check a store file", kCheckFooter);
-    check->add_option("FILE", check_.file, "the store file")->option_text(" ")->required();
-    Choose(*check, check_);
+  void AddStoreCommands(CLI::App& store) {
+    store.require_subcommand(1);
+    Add(store, "convert", "Write a firmware table as a store file", kConvertFooter,
+        [this](CLI::App& command) {
+          AddTableOptions(command, convert_.source);
+          AddOutputOption(command, convert_.output, "the store file to write")->required();
+          Choose(command, convert_);
+        });
+    Add(store, "check", "Check a store file", kCheckFooter, [this](CLI::App& command) {
+      command.add_option("FILE", check_.file, "the store file")->option_text(" ")->required();
+      Choose(command, check_);
+    });
   }
 
   /// The failure, and the command whose help has the answer.
