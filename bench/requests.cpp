@@ -13,7 +13,7 @@ class CountingSink final : public host::ComObject<IWbemObjectSink, IID_IWbemObje
 
   HRESULT STDMETHODCALLTYPE Indicate(LONG count, IWbemClassObject** objects) override {
     count_ += static_cast<size_t>(count);
-    if (wantsPath_) path_ = host::ClassObject::Behind(objects[0])->ToInstance().path;
+    if (wantsPath_) path_ = host::ClassObject::Behind(objects[0])->ToInstance().Path();
     return S_OK;
   }
   HRESULT STDMETHODCALLTYPE SetStatus(LONG, HRESULT, BSTR, IWbemClassObject*) override {

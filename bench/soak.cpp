@@ -33,7 +33,7 @@ struct Request {
 };
 
 size_t Digest(const host::Instance& instance) {
-  std::string text = instance.path;
+  std::string text = instance.Path();
   for (const host::Property& property : instance.properties) {
     text += '\n' + tools::PlainText(property.value);
   }
@@ -54,7 +54,7 @@ std::vector<Request> MakeRequests(host::ManagementHost& host) {
   for (const std::string& name : host.ClassNames()) {
     requests.push_back({name, true});
     host.Enumerate(name, [&](const host::Instance& instance) {
-      if (!instance.path.empty()) requests.push_back({instance.path, false});
+      if (!instance.Path().empty()) requests.push_back({instance.Path(), false});
     });
   }
   for (Request& request : requests) request.answer = Answer(host, request);

@@ -1,6 +1,7 @@
 #include "host/class_builder.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -10,13 +11,21 @@
 namespace tqcim::host {
 namespace {
 
-bool QualifierIsSet(const std::vector<Qualifier>& qualifiers, std::string_view name) {
+bool QualifierIsSet(Qualifiers qualifiers, std::string_view name) {
   return QualifierValue(qualifiers, name) == Value(true);
 }
 
+/// The own ones, and those of the inherited ones that don't stand among them.
+Qualifiers Merged(Qualifiers own, Qualifiers inherited, QualifierLists& lists) {
+  std::vector<Qualifier> all(own.begin(), own.end());
+  std::copy_if(inherited.begin(), inherited.end(), std::back_inserter(all),
+               [&](const Qualifier& qualifier) { return !FindQualifier(own, qualifier.name); });
+  return lists.Keep(all);
+}
+
 /// A property that a subclass declares again: its type and its origin stay, the rest may change.
-void Override(const PropertyDefinition& inherited, PropertyDefinition& own,
-              const MofSource& source) {
+void Override(const PropertyDefinition& inherited, PropertyDefinition& own, const MofSource& source,
+              QualifierLists& lists) {
   if (own.type != inherited.type || own.array != inherited.array) {
     throw MofError(source, own.name,
                    "property " + std::string(own.name) + " is inherited as " +
@@ -25,9 +34,7 @@ void Override(const PropertyDefinition& inherited, PropertyDefinition& own,
   own.key = own.key || inherited.key;
   own.origin = inherited.origin;
   if (IsNull(own.default_value)) own.default_value = inherited.default_value;
-  for (const Qualifier& qualifier : inherited.qualifiers) {
-    if (!FindQualifier(own.qualifiers, qualifier.name)) own.qualifiers.push_back(qualifier);
-  }
+  own.qualifiers = Merged(own.qualifiers, inherited.qualifiers, lists);
 }
 
 bool HasKey(const ClassDefinition& definition) {
@@ -38,7 +45,8 @@ bool HasKey(const ClassDefinition& definition) {
 /// Puts the property beside those that are inherited, or in the place of one of them, which it
 /// gives then.
 const PropertyDefinition* AddProperty(ClassDefinition& definition, PropertyDefinition& own,
-                                      size_t inherited_count, const MofSource& source) {
+                                      size_t inherited_count, const MofSource& source,
+                                      QualifierLists& lists) {
   own.key = QualifierIsSet(own.qualifiers, "Key");
   own.origin = definition.name;
   auto& properties = definition.properties;
@@ -50,18 +58,19 @@ const PropertyDefinition* AddProperty(ClassDefinition& definition, PropertyDefin
     properties.push_back(&own);
     return nullptr;
   }
-  Override(**found, own, source);
+  Override(**found, own, source, lists);
   return std::exchange(*found, &own);
 }
 
 void AddProperties(ClassDefinition& definition, const ClassDefinition* superclass,
-                   const MofSource& source) {
-  const size_t inherited_count = definition.properties.size();
+                   const MofSource& source, QualifierLists& lists) {
+  const size_t inherited_count = superclass ? superclass->properties.size() : 0;
   definition.properties.reserve(inherited_count + definition.declared.size());
+  if (superclass) definition.properties = superclass->properties;
   const bool keys_are_fixed = superclass && HasKey(*superclass);
   for (PropertyDefinition& property : definition.declared) {
     const PropertyDefinition* inherited =
-        AddProperty(definition, property, inherited_count, source);
+        AddProperty(definition, property, inherited_count, source, lists);
     if (!property.key) continue;
     if (property.array || property.type == CimType::kReal32 || property.type == CimType::kReal64) {
       throw MofError(source, property.name, "an array or a real number cannot be a key");
@@ -78,30 +87,30 @@ void AddProperties(ClassDefinition& definition, const ClassDefinition* superclas
   }
 }
 
-ClassDefinition Build(ParsedClass parsed, const ClassDefinition* superclass) {
+ClassDefinition Build(ParsedClass parsed, const ClassDefinition* superclass,
+                      QualifierLists& lists) {
   ClassDefinition definition;
   definition.name = parsed.name;
   definition.provider = QualifierText(parsed.qualifiers, "Provider");
   definition.abstract = QualifierIsSet(parsed.qualifiers, "Abstract");
   definition.association = QualifierIsSet(parsed.qualifiers, "Association");
   definition.singleton = QualifierIsSet(parsed.qualifiers, "Singleton");
-  definition.qualifiers = std::move(parsed.qualifiers);
+  definition.qualifiers = parsed.qualifiers;
   definition.declared = std::move(parsed.properties);
   if (superclass) {
     definition.superclass = superclass->name;
     definition.association = definition.association || superclass->association;
     definition.singleton = definition.singleton || superclass->singleton;
-    definition.properties = superclass->properties;
   }
-  AddProperties(definition, superclass, *parsed.source);
+  AddProperties(definition, superclass, *parsed.source, lists);
   return definition;
 }
 
 /// Builds classes, superclasses first, whatever their order.
 class Builder {
  public:
-  explicit Builder(std::vector<ParsedClass> parsed)
-      : parsed_(std::move(parsed)), is_built_(parsed_.size()) {
+  Builder(std::vector<ParsedClass> parsed, QualifierLists& lists)
+      : parsed_(std::move(parsed)), lists_(lists), is_built_(parsed_.size()) {
     built_.classes.resize(parsed_.size());
     for (size_t i = 0; i < parsed_.size(); ++i) {
       const std::string_view name = parsed_[i].name;
@@ -130,8 +139,8 @@ class Builder {
     std::reverse(chain.begin(), chain.end());
     for (const size_t next : chain) {
       const auto superclass = Superclass(next);
-      built_.classes[next] =
-          Build(std::move(parsed_[next]), superclass ? &built_.classes[*superclass] : nullptr);
+      built_.classes[next] = Build(std::move(parsed_[next]),
+                                   superclass ? &built_.classes[*superclass] : nullptr, lists_);
       is_built_[next] = true;
     }
   }
@@ -148,6 +157,7 @@ class Builder {
   }
 
   std::vector<ParsedClass> parsed_;  // without its properties once it is built
+  QualifierLists& lists_;
   std::vector<bool> is_built_;
   BuiltClasses built_;
 };
@@ -169,8 +179,8 @@ Value CheckedValue(const MofSource& source, std::string_view name, const Value& 
 
 }  // namespace
 
-BuiltClasses BuildClasses(std::vector<ParsedClass> parsed) {
-  return Builder(std::move(parsed)).BuildAll();
+BuiltClasses BuildClasses(std::vector<ParsedClass> parsed, QualifierLists& lists) {
+  return Builder(std::move(parsed), lists).BuildAll();
 }
 
 std::vector<DeclaredInstance> BuildInstances(const std::vector<ParsedInstance>& parsed,

@@ -16,8 +16,8 @@ struct BuiltClasses {
 /// The classes in the order given, each with what it inherits. Throws MofError for a class that
 /// stands twice, a superclass that is missing or goes in a circle, a property declared anew with
 /// another type, a key added below a class that has keys, a key in a singleton, a key that is an
-/// array or a real number.
-BuiltClasses BuildClasses(std::vector<ParsedClass> parsed);
+/// array or a real number. A property that is declared anew has its qualifiers in `lists`.
+BuiltClasses BuildClasses(std::vector<ParsedClass> parsed, QualifierLists& lists);
 
 /// Instances of the platform's own classes ("__...") are taken as they are; those of the schema's
 /// classes have to fit them. Throws MofError.

@@ -1,9 +1,7 @@
 #include "host/class_object.h"
 
-#include <algorithm>
 #include <array>
 
-#include "host/object_path.h"
 #include "host/refused_puts.h"
 #include "host/text.h"
 
@@ -62,13 +60,6 @@ HRESULT Deliver(const VARIANT& held, CIMTYPE held_type, LONG held_flavor, VARIAN
 
 }  // namespace
 
-const Property* Instance::Find(std::string_view property) const {
-  const auto found = std::find_if(
-      properties.begin(), properties.end(),
-      [property](const Property& candidate) { return EqualNames(candidate.name, property); });
-  return found == properties.end() ? nullptr : &*found;
-}
-
 ClassObject::ClassObject(std::shared_ptr<const Schema> schema, const ClassDefinition& definition,
                          Kind kind)
     : schema_(std::move(schema)), definition_(definition), kind_(kind) {
@@ -100,39 +91,25 @@ HRESULT ClassObject::QueryInterface(REFIID riid, void** object) {
   return RefusingClassObject::QueryInterface(riid, object);
 }
 
-Value ClassObject::PropertyValue(size_t index) const {
-  return ToValue(values_[index], *definition_.properties[index]);
-}
-
 Instance ClassObject::ToInstance() const {
   Instance instance;
-  instance.class_name = definition_.name;
-  instance.path = RelativePath();
+  instance.schema = schema_;
+  instance.definition = &definition_;
   instance.properties.reserve(values_.size());
   instance.put_order.reserve(put_order_.size());
   for (size_t i = 0; i < values_.size(); ++i) {
     const PropertyDefinition& property = *definition_.properties[i];
-    instance.properties.push_back({std::string(property.name), property.type, property.array,
-                                   property.key, put_[i], PropertyValue(i)});
+    instance.properties.push_back({property.name, property.type, property.array, property.key,
+                                   put_[i], ToValue(values_[i], property)});
   }
   for (const size_t index : put_order_) {
-    instance.put_order.emplace_back(definition_.properties[index]->name);
+    instance.put_order.push_back(definition_.properties[index]->name);
   }
   return instance;
 }
 
 std::string ClassObject::RelativePath() const {
-  ObjectPath path;
-  path.class_name = definition_.name;
-  if (kind_ == Kind::kDefinition) return path.class_name;
-  path.singleton = definition_.singleton;
-  for (size_t i = 0; i < values_.size(); ++i) {
-    if (!definition_.properties[i]->key) continue;
-    const auto value = ToScalar(PropertyValue(i));
-    if (!value) return {};
-    path.keys.push_back({std::string(definition_.properties[i]->name), *value});
-  }
-  return path.NamesInstance() ? RelativeText(path) : std::string();
+  return kind_ == Kind::kDefinition ? std::string(definition_.name) : ToInstance().Path();
 }
 
 HRESULT ClassObject::GetSystemProperty(std::string_view name, VARIANT* value, CIMTYPE* type,

@@ -63,7 +63,6 @@ class ClassObject final
   /// The relative path; empty while a key is null.
   std::string RelativePath() const;
   std::vector<std::string> Names(LONG flags) const;
-  Value PropertyValue(size_t index) const;
 
   std::shared_ptr<const Schema> schema_;
   const ClassDefinition& definition_;

@@ -1,6 +1,7 @@
 /// A delivered instance as plain values.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -12,8 +13,8 @@ namespace tqcim::host {
 
 /// One property of a delivered instance.
 struct Property {
-  std::string name;  ///< as declared
-  CimType type;      ///< as declared
+  std::string_view name;  ///< as declared
+  CimType type;           ///< as declared
   bool array = false;
   bool key = false;
   bool put = false;  ///< whether the provider put it (a null may have been put, too)
@@ -22,10 +23,13 @@ struct Property {
 
 /// One delivered instance; a copy that outlives the host.
 struct Instance {
-  std::string class_name;
-  std::string path;                    ///< relative object path, "CLASS.KEY=\"...\",..."
-  std::vector<Property> properties;    ///< every declared property, in the class's order
-  std::vector<std::string> put_order;  ///< names in the order in which the provider put them
+  std::shared_ptr<const Schema> schema;  ///< whose definition and names these are
+  const ClassDefinition* definition = nullptr;
+  std::vector<Property> properties;         ///< every declared property, in the class's order
+  std::vector<std::string_view> put_order;  ///< names in the order in which the provider put them
+
+  /// The relative object path, "CLASS.KEY=\"...\",..."; empty where a key is null.
+  std::string Path() const;
 
   /// The property of that name in any case, or null.
   const Property* Find(std::string_view property) const;

@@ -37,9 +37,9 @@ constexpr auto kSorts = [] {
 Sort SortOf(char c) {
   return kSorts[static_cast<unsigned char>(c)];
 }
-bool IsWordCharacter(char c) {
+constexpr auto IsWordCharacter = [](char c) {
   return SortOf(c) == Sort::kLetter || SortOf(c) == Sort::kDigit;
-}
+};
 bool IsHexDigit(char c) {
   return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
@@ -126,26 +126,22 @@ Scalar LiteralOf(const MofToken& token) {
 }
 
 void MofLexer::SkipBlanks() {
-  for (; !AtEnd(); ++position_) {
-    const Sort sort = SortOf(text_[position_]);
-    if (sort == Sort::kComment && (Peek(1) == '/' || Peek(1) == '*')) {
-      SkipComment();
-    } else if (sort != Sort::kBlank) {
-      return;
-    }
+  for (;;) {
+    SkipAll([](char c) { return SortOf(c) == Sort::kBlank; });
+    if (Peek() != '/' || (Peek(1) != '/' && Peek(1) != '*')) return;
+    SkipComment();
   }
 }
 
-/// Up to the last character of a comment.
 void MofLexer::SkipComment() {
   const bool to_line_end = Peek(1) == '/';
   const size_t end = text_.find(to_line_end ? "\n" : "*/", position_ + 2);
   if (to_line_end) {
-    position_ = std::min(end, text_.size()) - 1;
+    position_ = std::min(end, text_.size());
   } else if (end == std::string_view::npos) {
     Refuse(position_, "the comment is not closed");
   } else {
-    position_ = end + 1;
+    position_ = end + 2;
   }
 }
 
@@ -184,7 +180,7 @@ void MofLexer::RequireLength(size_t start) const {
 
 MofToken::Kind MofLexer::Identifier() {
   const size_t start = position_;
-  while (!AtEnd() && IsWordCharacter(text_[position_])) ++position_;
+  SkipAll(IsWordCharacter);
   RequireLength(start);
   return MofToken::Kind::kIdentifier;
 }
@@ -229,20 +225,21 @@ void MofLexer::JoinedTexts(std::string* meaning) {
   position_ = end;
 }
 
-// One pass that stops at the first of the three: to look for each of them would read a text of many
-// escapes to its end at every one.
-void MofLexer::SkipPlainText(char quote) {
-  const auto stop =
-      std::find_if(text_.begin() + static_cast<std::ptrdiff_t>(position_), text_.end(),
-                   [quote](char c) { return c == quote || c == '\\' || c == '\n'; });
-  position_ = static_cast<size_t>(stop - text_.begin());
+void MofLexer::SkipPlainText(size_t quote) {
+  const std::string_view before_quote = text_.substr(position_, quote - position_);
+  const std::string_view plain = before_quote.substr(0, before_quote.find('\\'));
+  position_ += std::min(plain.find('\n'), plain.size());
 }
 
 void MofLexer::QuotedText(char quote, std::string* meaning) {
   const size_t start = position_++;
+  // Looked for anew where an escape has passed it alone: to do so at every escape would read a text
+  // of nothing else to its end each time.
+  size_t next_quote = 0;
   for (;;) {
     const size_t piece = position_;
-    SkipPlainText(quote);
+    if (next_quote < position_) next_quote = std::min(text_.find(quote, position_), text_.size());
+    SkipPlainText(next_quote);
     if (meaning) *meaning += Since(piece);
     if (Peek() == quote) break;
     if (Peek() != '\\') Refuse(start, "the text is not closed on its line");

@@ -43,6 +43,13 @@ class MofLexer {
     return position_ + ahead < text_.size() ? text_[position_ + ahead] : '\0';
   }
   bool AtEnd() const { return position_ >= text_.size(); }
+  /// Goes past all characters of a sort that stand here.
+  template <typename IsOne>
+  void SkipAll(IsOne is_one) {
+    size_t next = position_;
+    while (next < text_.size() && is_one(text_[next])) ++next;
+    position_ = next;
+  }
   /// What stands between a position that has been passed and this one.
   std::string_view Since(size_t start) const { return text_.substr(start, position_ - start); }
   [[noreturn]] void Refuse(size_t position, const std::string& reason) const {
@@ -57,8 +64,8 @@ class MofLexer {
   void JoinedTexts(std::string* meaning);
   void QuotedText(char quote, std::string* meaning);
   void EscapedCharacter(std::string* meaning);
-  /// Goes on to the quote, a backslash or the end of the line.
-  void SkipPlainText(char quote);
+  /// Goes on to the quote that stands there, or to a backslash or the end of the line before it.
+  void SkipPlainText(size_t quote);
   /// Each goes past the token that starts here, and tells its kind.
   MofToken::Kind Pass();
   MofToken::Kind Identifier();

@@ -1,6 +1,7 @@
 #include "host/mof_parser.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 #include <set>
 #include <string>
@@ -15,11 +16,13 @@ namespace {
 
 class MofParser {
  public:
-  explicit MofParser(const MofSource& source) : source_(source), lexer_(source) { Skip(); }
+  MofParser(const MofSource& source, MofDocument& document)
+      : source_(source), lexer_(source), document_(document) {
+    Skip();
+  }
 
-  MofDocument Parse() {
+  void Parse() {
     while (token_.kind != MofToken::Kind::kEnd) Declaration();
-    return std::move(document_);
   }
 
  private:
@@ -49,10 +52,10 @@ class MofParser {
   void Declaration() {
     if (token_.Is('#')) return Directive();
     if (token_.IsWord("instance")) return InstanceDeclaration();
-    std::vector<Qualifier> qualifiers = QualifierList();
+    const Qualifiers qualifiers = QualifierList();
     if (!token_.IsWord("class")) Want("a class, an instance or a directive");
     Skip();
-    ClassDeclaration(std::move(qualifiers));
+    ClassDeclaration(qualifiers);
   }
 
   void Directive() {
@@ -73,14 +76,12 @@ class MofParser {
     }
   }
 
-  std::vector<Qualifier> QualifierList() {
-    std::vector<Qualifier> qualifiers;
-    if (!TakeIf('[')) return qualifiers;
-    constexpr size_t kFew = 4;
-    qualifiers.reserve(kFew);
+  Qualifiers QualifierList() {
+    if (!TakeIf('[')) return {};
+    qualifiers_.clear();
     do {
       Qualifier qualifier{ExpectName("the name of a qualifier"), {}};
-      if (FindQualifier(qualifiers, qualifier.name)) {
+      if (FindQualifier(qualifiers_, qualifier.name)) {
         Refuse(qualifier.name, "qualifier " + std::string(qualifier.name) + " stands twice");
       }
       if (TakeIf('(')) {
@@ -92,29 +93,32 @@ class MofParser {
       if (TakeIf(':')) {
         while (token_.kind == MofToken::Kind::kIdentifier) Skip();
       }
-      qualifiers.push_back(qualifier);
+      qualifiers_.push_back(qualifier);
     } while (TakeIf(','));
     Expect(']');
-    return qualifiers;
+    return document_.qualifier_lists.Keep(qualifiers_);
   }
 
-  void ClassDeclaration(std::vector<Qualifier> qualifiers) {
+  void ClassDeclaration(Qualifiers qualifiers) {
     ParsedClass parsed{.source = &source_,
                        .name = ExpectName("the name of a class"),
                        .superclass = {},
-                       .qualifiers = std::move(qualifiers),
+                       .qualifiers = qualifiers,
                        .properties = {}};
     if (TakeIf(':')) parsed.superclass = ExpectName("the name of the superclass");
     Expect('{');
+    properties_.clear();
     while (!TakeIf('}')) {
       PropertyDefinition property = PropertyDeclaration();
-      if (std::any_of(parsed.properties.begin(), parsed.properties.end(),
+      if (std::any_of(properties_.begin(), properties_.end(),
                       [&](const auto& before) { return EqualNames(before.name, property.name); })) {
         Refuse(property.name, "property " + std::string(property.name) + " stands twice");
       }
-      parsed.properties.push_back(std::move(property));
+      properties_.push_back(std::move(property));
     }
     Expect(';');
+    parsed.properties.assign(std::move_iterator(properties_.begin()),
+                             std::move_iterator(properties_.end()));
     document_.classes.push_back(std::move(parsed));
   }
 
@@ -216,7 +220,10 @@ class MofParser {
   MofLexer lexer_;
   MofToken token_;
   std::set<std::string_view> aliases_;
-  MofDocument document_;
+  MofDocument& document_;
+  // What is being collected; kept to be filled again.
+  std::vector<Qualifier> qualifiers_;
+  std::vector<PropertyDefinition> properties_;
 };
 
 /// Nothing for null.
@@ -229,8 +236,8 @@ std::optional<Scalar> ScalarOf(const MofToken& token, MofLexer& lexer) {
 
 }  // namespace
 
-MofDocument ParseMof(const MofSource& source) {
-  return MofParser(source).Parse();
+void ParseMof(const MofSource& source, MofDocument& document) {
+  MofParser(source, document).Parse();
 }
 
 Value ValueOf(std::string_view text) {

@@ -14,7 +14,7 @@ struct ParsedClass {
   const MofSource* source = nullptr;
   std::string_view name;
   std::string_view superclass;  ///< empty for a root class
-  std::vector<Qualifier> qualifiers;
+  Qualifiers qualifiers;
   std::vector<PropertyDefinition> properties;  ///< neither their keys nor their origins are set
 };
 
@@ -24,15 +24,17 @@ struct ParsedInstance {
   std::vector<std::pair<std::string_view, Value>> assignments;
 };
 
+/// What one or more texts declare, in their order.
 struct MofDocument {
   std::vector<ParsedClass> classes;
   std::vector<ParsedInstance> instances;
+  QualifierLists qualifier_lists;  ///< those of the classes
 };
 
 /// Parses one MOF text: classes with properties and qualifiers, instances with aliases, compiler
 /// directives. Methods, embedded instances and qualifier declarations are refused. Throws MofError.
-/// The source outlives the document.
-MofDocument ParseMof(const MofSource& source);
+/// What it declares is added to the document, which the source outlives.
+void ParseMof(const MofSource& source, MofDocument& document);
 
 /// What a value stands for, from its text, which has been parsed before. An alias is the text
 /// "$Name".

@@ -25,28 +25,6 @@ std::string ReadFile(const std::filesystem::path& path) {
 
 }  // namespace
 
-Value Qualifier::value() const {
-  return text.empty() ? Value(true) : ValueOf(text);
-}
-
-const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::string_view name) {
-  const auto found =
-      std::find_if(qualifiers.begin(), qualifiers.end(),
-                   [name](const Qualifier& qualifier) { return EqualNames(qualifier.name, name); });
-  return found == qualifiers.end() ? nullptr : &*found;
-}
-
-Value QualifierValue(const std::vector<Qualifier>& qualifiers, std::string_view name) {
-  const Qualifier* qualifier = FindQualifier(qualifiers, name);
-  return qualifier ? qualifier->value() : Value();
-}
-
-std::string QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name) {
-  const Value value = QualifierValue(qualifiers, name);
-  const auto* text = std::get_if<std::string>(&value);
-  return text ? *text : std::string();
-}
-
 std::string PropertyDefinition::Description() const {
   return QualifierText(qualifiers, "Description");
 }
@@ -106,14 +84,10 @@ Schema Schema::FromFolder(const std::filesystem::path& folder) {
 
 Schema Schema::FromSources(std::span<const MofSource> sources) {
   MofDocument document;
-  for (const MofSource& source : sources) {
-    MofDocument parsed = ParseMof(source);
-    std::move(parsed.classes.begin(), parsed.classes.end(), std::back_inserter(document.classes));
-    std::move(parsed.instances.begin(), parsed.instances.end(),
-              std::back_inserter(document.instances));
-  }
+  for (const MofSource& source : sources) ParseMof(source, document);
   Schema schema;
-  BuiltClasses built = BuildClasses(std::move(document.classes));
+  BuiltClasses built = BuildClasses(std::move(document.classes), document.qualifier_lists);
+  schema.qualifier_lists_ = std::move(document.qualifier_lists);
   schema.classes_ = std::move(built.classes);
   schema.by_name_ = std::move(built.by_name);
   schema.instances_ = BuildInstances(document.instances, schema);

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "host/mof_source.h"
+#include "host/qualifiers.h"
 #include "host/text.h"
 #include "host/value.h"
 
@@ -37,22 +38,6 @@ enum class CimType {
 /// The name that MOF gives to a type ("uint32"); a reference is "ref".
 std::string_view TypeName(CimType type);
 
-/// A qualifier as MOF writes it: few are ever looked at.
-struct Qualifier {
-  std::string_view name;
-  std::string_view text;  ///< of the value; empty where MOF gives none
-
-  /// `true` where MOF gives none.
-  Value value() const;
-};
-
-/// The qualifier of that name in any case, or null.
-const Qualifier* FindQualifier(const std::vector<Qualifier>& qualifiers, std::string_view name);
-/// Its value; null without it.
-Value QualifierValue(const std::vector<Qualifier>& qualifiers, std::string_view name);
-/// Its text; empty without it.
-std::string QualifierText(const std::vector<Qualifier>& qualifiers, std::string_view name);
-
 /// One property of a class.
 struct PropertyDefinition {
   std::string_view name;
@@ -62,7 +47,7 @@ struct PropertyDefinition {
   std::string_view reference_class;  ///< of a reference, the class that it points to
   std::string_view origin;           ///< the class that declares the property first
   Value default_value;
-  std::vector<Qualifier> qualifiers;
+  Qualifiers qualifiers;
 
   /// The texts of these qualifiers; empty without them.
   std::string Description() const;
@@ -85,7 +70,7 @@ struct ClassDefinition {
   std::vector<const PropertyDefinition*> properties;
   std::vector<PropertyDefinition>
       declared;  ///< those of `properties` that the class itself declares
-  std::vector<Qualifier> qualifiers;
+  Qualifiers qualifiers;
 
   /// The text of the qualifier; empty without it.
   std::string Description() const;
@@ -136,6 +121,7 @@ class Schema {
   Schema() = default;
 
   std::vector<std::string> files_;  // what the names stand in, unless the texts are another's
+  QualifierLists qualifier_lists_;
   std::vector<ClassDefinition> classes_;
   std::vector<DeclaredInstance> instances_;
   ClassIndex by_name_;

@@ -1,6 +1,7 @@
 #include "host/text.h"
 
 #include <algorithm>
+#include <array>
 
 namespace tqcim::host {
 namespace {
@@ -8,6 +9,9 @@ namespace {
 char Lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
+
+/// A function object, so that it is inlined.
+constexpr auto kAreEqualLetters = [](char x, char y) { return x == y || Lower(x) == Lower(y); };
 
 }  // namespace
 
@@ -25,13 +29,19 @@ WideText ToWide(std::string_view utf8) {
 }
 
 std::string ToUtf8(WideView wide) {
-  const int size = static_cast<int>(wide.size());
-  const int needed =
-      WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, nullptr, 0, nullptr, nullptr);
-  std::string utf8(static_cast<size_t>(needed), '\0');
-  if (needed > 0) {
-    WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, utf8.data(), needed, nullptr, nullptr);
+  const auto convert = [&](char* utf8, int room) {
+    const int size = static_cast<int>(wide.size());
+    return static_cast<size_t>(
+        WideCharToMultiByte(CP_UTF8, 0, wide.data(), size, utf8, room, nullptr, nullptr));
+  };
+  // Names and most values are short enough for a room that holds them whatever they are.
+  constexpr size_t kBytesPerUnit = 3;
+  std::array<char, 384> room;
+  if (wide.size() <= room.size() / kBytesPerUnit) {
+    return {room.data(), convert(room.data(), static_cast<int>(room.size()))};
   }
+  std::string utf8(convert(nullptr, 0), '\0');
+  convert(utf8.data(), static_cast<int>(utf8.size()));
   return utf8;
 }
 
@@ -42,14 +52,13 @@ std::string LowerCase(std::string_view text) {
 }
 
 bool HaveEqualLetters(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(),
-                    [](char x, char y) { return x == y || Lower(x) == Lower(y); });
+  return std::equal(a.begin(), a.end(), b.begin(), kAreEqualLetters);
 }
 
 bool NameOrder::operator()(std::string_view a, std::string_view b) const {
   if (a.size() != b.size()) return a.size() < b.size();
-  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                      [](char x, char y) { return Lower(x) < Lower(y); });
+  const auto [in_a, in_b] = std::mismatch(a.begin(), a.end(), b.begin(), kAreEqualLetters);
+  return in_a != a.end() && Lower(*in_a) < Lower(*in_b);
 }
 
 }  // namespace tqcim::host

@@ -106,7 +106,7 @@ class PartReader {
   void ReadGroup(const ClassDefinition& definition, const Instance& instance) {
     const std::string code = TextOf(instance, kRedundancyStatus);
     // Each group is given once for every chassis.
-    if (code.empty() || !groups_.insert(instance.path).second) return;
+    if (code.empty() || !groups_.insert(instance.Path()).second) return;
     const std::string status =
         MeaningText(instance.Find(kRedundancyStatus)->value, *definition.Find(kRedundancyStatus));
     Count(JudgeRedundancy(code), {.definition = &definition,
@@ -130,7 +130,7 @@ class PartReader {
   void Add(Verdict severity, Finding finding) {
     finding.severity = severity;
     finding.name = TextOf(finding.instance, "Name");
-    if (finding.name.empty()) finding.name = IdentifyingKeys(finding.instance.path);
+    if (finding.name.empty()) finding.name = IdentifyingKeys(finding.instance.Path());
     health_.findings.push_back(std::move(finding));
     told_ = true;
   }

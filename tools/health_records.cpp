@@ -58,7 +58,7 @@ void ReadRecords(host::ManagementHost& host, Health& health) {
       const std::string time = TextOf(instance, "EventTime");
       if (!time.empty()) last_time = time;
       Take({.log = std::string(log),
-            .path = instance.path,
+            .path = instance.Path(),
             .time = time,
             .severity = TextOf(instance, "Status"),
             .text = TextOf(instance, "LogRecord"),

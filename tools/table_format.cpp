@@ -153,7 +153,7 @@ std::string BlockText(const Listing& listing, const Layout& layout) {
   for (const host::Instance& instance : listing.instances) {
     text += '\n';
     // The path of an association would say the two references once more.
-    if (!definition.association) text += Printable(instance.path) + '\n';
+    if (!definition.association) text += Printable(instance.Path()) + '\n';
     text += PropertyLines(instance, AllPositions(definition), definition, layout);
   }
   return text;

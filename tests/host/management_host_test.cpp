@@ -21,7 +21,7 @@ class ManagementHostTest : public FakeProviderTest {
   Answer Enumerate(std::string_view class_name) {
     Answer answer;
     answer.outcome = host_->Enumerate(
-        class_name, [&](const Instance& instance) { answer.paths.push_back(instance.path); });
+        class_name, [&](const Instance& instance) { answer.paths.push_back(instance.Path()); });
     return answer;
   }
   std::string NameGot(std::string_view path) {
@@ -68,7 +68,7 @@ TEST_F(ManagementHostTest, InstancesCarryEveryDeclaredProperty) {
   host_.reset();
   ASSERT_EQ(2u, instances.size());
   const Instance& instance = instances[1];
-  EXPECT_EQ("Fake_Two", instance.class_name);
+  EXPECT_EQ("Fake_Two", instance.definition->name);
   ASSERT_EQ(2u, instance.properties.size());
   EXPECT_EQ("Name", instance.properties[0].name);
   EXPECT_EQ(CimType::kString, instance.properties[0].type);
@@ -79,7 +79,7 @@ TEST_F(ManagementHostTest, InstancesCarryEveryDeclaredProperty) {
   EXPECT_FALSE(instance.properties[1].key);
   EXPECT_FALSE(instance.properties[1].put);
   EXPECT_EQ(Value(), instance.properties[1].value);
-  EXPECT_EQ((std::vector<std::string>{"Name"}), instance.put_order);
+  EXPECT_EQ((std::vector<std::string_view>{"Name"}), instance.put_order);
   EXPECT_EQ(&instance.properties[1], instance.Find("nUMBER"));
   EXPECT_EQ(nullptr, instance.Find("Numbe"));
 }

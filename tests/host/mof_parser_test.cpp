@@ -7,7 +7,10 @@ namespace tqcim::host {
 namespace {
 
 MofDocument Parse(std::string_view text) {
-  return ParseMof({"x.mof", text});
+  const MofSource source{"x.mof", text};
+  MofDocument document;
+  ParseMof(source, document);
+  return document;
 }
 
 std::string MofErrorOf(std::string_view text) {
@@ -49,7 +52,7 @@ TEST(MofParser, ReadsAClassWithItsSuperclassQualifiersAndProperties) {
   EXPECT_EQ("Name", parsed.properties[0].name);
   EXPECT_EQ(CimType::kString, parsed.properties[0].type);
   EXPECT_FALSE(parsed.properties[0].array);
-  EXPECT_EQ("Key", parsed.properties[0].qualifiers.at(0).name);
+  EXPECT_EQ("Key", parsed.properties[0].qualifiers[0].name);
   EXPECT_EQ(CimType::kUint16, parsed.properties[1].type);
   EXPECT_TRUE(parsed.properties[1].array);
   EXPECT_EQ(CimType::kSint32, parsed.properties[2].type);
@@ -64,7 +67,7 @@ TEST(MofParser, GivesTheValueOfAQualifierWhenItIsAskedFor) {
       [Alias($One), Off(false), None(NULL), Code('A'), Many{1, -2, "two /*\x41"  /* joined */ "!"},
        Empty{}, Real(2.5)]
       class Lid {};)");
-  const std::vector<Qualifier>& qualifiers = document.classes.at(0).qualifiers;
+  const Qualifiers qualifiers = document.classes.at(0).qualifiers;
   const auto value_of = [&](const char* name) { return FindQualifier(qualifiers, name)->value(); };
   EXPECT_EQ(Value("$One"), value_of("alias"));
   EXPECT_EQ(Value(false), value_of("Off"));
@@ -181,6 +184,10 @@ TEST(MofParser, NamesThePlaceAndTheReasonOfAnError) {
        "x.mof:1:19: an argument of the directive or ')' should stand here, "
        "not ';'"},
       {"class A { string P = \"open\n\"; };", "x.mof:1:22: the text is not closed on its line"},
+      {"class A { string P = \"open", "x.mof:1:22: the text is not closed on its line"},
+      {"class A { string P = \"a\\\"b\n\"; };", "x.mof:1:22: the text is not closed on its line"},
+      {"class A { string P = \"a\\tb\n\\t\"; };", "x.mof:1:22: the text is not closed on its line"},
+      {"class A { string P = \"a\\", "x.mof:1:24: MOF has no such escape"},
       {"class A { string P = \"\\q\"; };", "x.mof:1:23: MOF has no such escape"},
       {"class A { char16 P = 'ab'; };", "x.mof:1:22: between single quotes stands one character"},
       {"class A {};\n/* open", "x.mof:2:1: the comment is not closed"},

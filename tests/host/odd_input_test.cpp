@@ -39,7 +39,8 @@ TEST(OddObjectPath, ANumberHasOneSign) {
 TEST(OddMof, AWordLongerThanAnyNameIsRefusedInAShortSentence) {
   const auto error = [](const std::string& text) -> std::string {
     try {
-      ParseMof({"x.mof", text});
+      MofDocument document;
+      ParseMof({"x.mof", text}, document);
     } catch (const MofError& refusal) {
       return refusal.what();
     }

@@ -41,8 +41,8 @@ TEST_P(ProviderClass, PutsEveryKeyAndNoTwoInstancesShareAPath) {
     for (const Property& property : instance.properties) {
       EXPECT_TRUE(!property.key || property.put) << property.name;
     }
-    EXPECT_FALSE(instance.path.empty());
-    EXPECT_TRUE(paths.insert(instance.path).second) << instance.path;
+    EXPECT_FALSE(instance.Path().empty());
+    EXPECT_TRUE(paths.insert(instance.Path()).second) << instance.Path();
   }
 }
 

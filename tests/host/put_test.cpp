@@ -228,7 +228,7 @@ TEST_F(Put, TheOrderOfPutsIsRemembered) {
   Try(OLESTR("S"), Text(OLESTR("2")));
   Try(OLESTR("D"), OfType(VT_NULL));
   const Instance held = ClassObject::Behind(instance_.get())->ToInstance();
-  EXPECT_EQ((std::vector<std::string>{"S", "U8", "S", "D"}), held.put_order);
+  EXPECT_EQ((std::vector<std::string_view>{"S", "U8", "S", "D"}), held.put_order);
   EXPECT_TRUE(held.Find("S")->put);
   EXPECT_TRUE(held.Find("D")->put);
   EXPECT_FALSE(held.Find("U16")->put);

@@ -43,7 +43,7 @@ class ResultSinkTest : public HostObjectsTest {
   Com<ClassObject> definition_ = ClassObject::Definition(schema_, *schema_->Find("T"));
   std::vector<std::string> paths_;
   Com<ResultSink> sink_{
-      new ResultSink([this](Instance instance) { paths_.push_back(instance.path); })};
+      new ResultSink([this](Instance instance) { paths_.push_back(instance.Path()); })};
 };
 
 TEST_F(ResultSinkTest, HandsInstancesOnAtOnceAndKeepsNone) {

@@ -15,11 +15,10 @@ namespace {
 using host::ClassDefinition;
 using host::MofSource;
 using host::PropertyDefinition;
-using host::Qualifier;
+using host::Qualifiers;
 using host::Schema;
 
-void ExpectSame(const std::vector<Qualifier>& expected, const std::vector<Qualifier>& actual,
-                std::string_view owner) {
+void ExpectSame(Qualifiers expected, Qualifiers actual, std::string_view owner) {
   ASSERT_EQ(expected.size(), actual.size()) << owner;
   for (size_t i = 0; i < expected.size(); ++i) {
     EXPECT_EQ(expected[i].name, actual[i].name) << owner;
@@ -129,7 +128,8 @@ TEST(RemovalMof, BeginsWithTheRegistrationAndEndsWithTheNamespace) {
 
 TEST(RemovalMof, IsValidAndMakesNothing) {
   const std::string text = ContentsOf(TQCIM_BUILD "/tqcim-remove.mof");
-  const host::MofDocument document = host::ParseMof({"tqcim-remove.mof", text});
+  host::MofDocument document;
+  host::ParseMof({"tqcim-remove.mof", text}, document);
   EXPECT_TRUE(document.classes.empty());
   EXPECT_TRUE(document.instances.empty());
 }

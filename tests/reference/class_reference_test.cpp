@@ -36,7 +36,7 @@ TEST_P(ClassReference, HasAPageThatIsUpToDate) {
 
 /// Whatever the sample shows is told on the page, and nothing that isn't declared.
 TEST_P(ClassReference, TellsWhereEachValueComesFrom) {
-  std::set<std::string> told;
+  std::set<std::string_view> told;
   for (const auto& [property, source] : AllClassNotes().at(GetParam()).values) {
     EXPECT_NE(nullptr, Definition().Find(property)) << property;
     EXPECT_FALSE(source.empty()) << property;
