@@ -1,8 +1,10 @@
 #include <memory>
+#include <utility>
 
 #include "store/files.h"
 #include "tools/commands.h"
 #include "tools/formats.h"
+#include "tools/json_writer.h"
 #include "tools/provider.h"
 #include "tools/source.h"
 #include "tools/store_failure.h"
@@ -11,10 +13,8 @@
 namespace tqcim::tools {
 namespace {
 
-std::string Summary(const std::string& file, const std::vector<ClassInstances>& classes) {
-  size_t instances = 0;
-  for (const ClassInstances& one : classes) instances += one.instances ? one.instances->size() : 0;
-  return Printable(file) + ": " + std::to_string(classes.size()) + " classes, " +
+std::string Summary(const std::string& file, size_t classes, size_t instances) {
+  return Printable(file) + ": " + std::to_string(classes) + " classes, " +
          std::to_string(instances) + (instances == 1 ? " instance\n" : " instances\n");
 }
 
@@ -24,26 +24,32 @@ CommandResult Run(const ExportCommand& command) {
   const Source source = OpenSource(command.source);
   const std::unique_ptr<host::ManagementHost> host = OpenHost();
   CommandResult result{.output = {}, .remark = SampleRemark(source)};
-  std::vector<ClassInstances> classes;
+  const std::vector<std::string> classes = host->ClassNames();
+  size_t instances = 0;
   std::string failures;
-  for (const std::string& name : host->ClassNames()) {
-    Answer answer = Enumerate(*host, name);
-    ClassInstances& added = classes.emplace_back(ClassInstances{name, std::nullopt});
-    if (Answered(answer.outcome)) {
-      added.instances = std::move(answer.instances);
-    } else {
-      failures += (failures.empty() ? "" : "; ") + FailureText(name, answer.outcome);
+  JsonWriter json;
+  json.Object([&] {
+    for (const std::string& name : classes) {
+      const Answer answer = Enumerate(*host, name);
+      json.Name(name);
+      if (Answered(answer.outcome)) {
+        instances += answer.instances.size();
+        WriteInstances(json, answer.instances);
+      } else {
+        failures += (failures.empty() ? "" : "; ") + FailureText(name, answer.outcome);
+        json.Value({});
+      }
     }
-  }
+  });
   if (!failures.empty()) {
     result.remark = failures;
     result.status = static_cast<int>(ExitStatus::kProviderFailed);
   }
-  result.output = JsonText(classes);
+  result.output = std::move(json).Document();
   if (!command.output.empty()) {
     FailingWith(ExitStatus::kOutputFailed,
                 [&] { store::WriteFile(store::PathOf(command.output), result.output); });
-    result.output = Summary(command.output, classes);
+    result.output = Summary(command.output, classes.size(), instances);
   }
   return result;
 }

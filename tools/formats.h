@@ -7,6 +7,7 @@
 
 #include "host/instance.h"
 #include "host/schema.h"
+#include "tools/json_writer.h"
 #include "tools/options.h"
 #include "tools/table.h"
 
@@ -28,18 +29,13 @@ struct ClassSummary {
   std::optional<std::string> status;
 };
 
-/// All instances of one class; nothing where the provider failed to give them.
-struct ClassInstances {
-  std::string name;
-  std::optional<std::vector<host::Instance>> instances;
-};
-
 /// An array of objects, the properties in their declared order, null where an instance doesn't
 /// have one. Integers are numbers of all their digits, up to 64 bits.
 std::string JsonText(const std::vector<host::Instance>& instances);
 std::string JsonText(const std::vector<ClassSummary>& classes);
-/// One object: under each class's name its array as above, null for a class that failed.
-std::string JsonText(const std::vector<ClassInstances>& classes);
+
+/// The array as one value of a larger document.
+void WriteInstances(JsonWriter& json, const std::vector<host::Instance>& instances);
 
 /// RFC 4180, with a header line; null is an empty field, an empty text "".
 std::string CsvText(const Listing& listing);

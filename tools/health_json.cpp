@@ -1,77 +1,91 @@
+#include <cstdint>
+
 #include "tools/health.h"
 #include "tools/health_parts.h"
 #include "tools/health_reading.h"
-#include "tools/json.h"
+#include "tools/json_writer.h"
 
 namespace tqcim::tools {
 namespace {
 
-Json TextOrNull(const std::string& text) {
-  return text.empty() ? Json() : Json(text);
+host::Value TextOrNull(const std::string& text) {
+  return text.empty() ? host::Value() : host::Value(text);
 }
 
-Json PropertyOrNull(const host::Instance& instance, std::string_view name) {
+host::Value PropertyOrNull(const host::Instance& instance, std::string_view name) {
   const host::Property* property = instance.Find(name);
-  return property == nullptr ? Json() : ToJson(property->value);
+  return property == nullptr ? host::Value() : property->value;
 }
 
-Json Records(const std::vector<LogEntry>& records) {
-  Json array = Json::array();
-  for (const LogEntry& record : records) {
-    array.push_back({{"class", record.log},
-                     {"path", record.path},
-                     {"time", TextOrNull(record.time)},
-                     {"status", record.severity},
-                     {"text", record.text}});
-  }
-  return array;
+void WriteRecords(JsonWriter& json, const std::vector<LogEntry>& records) {
+  json.Name("records");
+  json.Array([&] {
+    for (const LogEntry& record : records) {
+      json.Object([&] {
+        json.Member("class", record.log);
+        json.Member("path", record.path);
+        json.Member("time", TextOrNull(record.time));
+        json.Member("status", record.severity);
+        json.Member("text", record.text);
+      });
+    }
+  });
 }
 
-Json UnitOf(const Finding& finding) {
+host::Value UnitOf(const Finding& finding) {
   const host::PropertyDefinition* reading = finding.definition->Find("CurrentReading");
-  return reading == nullptr ? Json() : TextOrNull(std::string(reading->Units()));
+  return reading == nullptr ? host::Value() : TextOrNull(reading->Units());
 }
 
 /// Null for a class without thresholds.
-Json Thresholds(const Finding& finding) {
-  Json thresholds;
+void WriteThresholds(JsonWriter& json, const host::Instance& instance) {
+  std::vector<std::string_view> names;
   for (const auto& side : {LowerThresholds(), UpperThresholds()}) {
-    for (const std::string_view name : side) {
-      if (finding.instance.Find(name) == nullptr) continue;
-      thresholds[std::string(name)] = PropertyOrNull(finding.instance, name);
-    }
+    std::copy_if(side.begin(), side.end(), std::back_inserter(names),
+                 [&](std::string_view name) { return instance.Find(name) != nullptr; });
   }
-  return thresholds;
+  json.Name("thresholds");
+  if (names.empty()) return json.Value({});
+  json.Object([&] {
+    for (const std::string_view name : names) json.Member(name, PropertyOrNull(instance, name));
+  });
 }
 
-Json FindingJson(const Finding& finding) {
-  return {{"class", finding.definition->name},
-          {"path", finding.instance.path},
-          {"name", finding.name},
-          {"verdict", VerdictText(finding.severity)},
-          {"property", finding.property},
-          {"status", finding.status},
-          {"reading", PropertyOrNull(finding.instance, "CurrentReading")},
-          {"unit", UnitOf(finding)},
-          {"thresholds", Thresholds(finding)},
-          {"error", PropertyOrNull(finding.instance, "ErrorDescription")},
-          {"records", Records(finding.records)}};
+void WriteFinding(JsonWriter& json, const Finding& finding) {
+  json.Object([&] {
+    json.Member("class", std::string(finding.definition->name));
+    json.Member("path", finding.instance.Path());
+    json.Member("name", finding.name);
+    json.Member("verdict", VerdictText(finding.severity));
+    json.Member("property", finding.property);
+    json.Member("status", finding.status);
+    json.Member("reading", PropertyOrNull(finding.instance, "CurrentReading"));
+    json.Member("unit", UnitOf(finding));
+    WriteThresholds(json, finding.instance);
+    json.Member("error", PropertyOrNull(finding.instance, "ErrorDescription"));
+    WriteRecords(json, finding.records);
+  });
 }
 
 }  // namespace
 
 std::string HealthJson(const Health& health) {
-  Json findings = Json::array();
-  for (const Finding& finding : health.findings) findings.push_back(FindingJson(finding));
-  return DocumentText({{"verdict", VerdictText(health.verdict)},
-                       {"status", health.system_status ? Json(*health.system_status) : Json()},
-                       {"source", health.source},
-                       {"checked", health.checked},
-                       {"ok", health.fine},
-                       {"untold", health.untold},
-                       {"logRecords", health.log_records},
-                       {"findings", findings},
-                       {"records", Records(health.records)}});
+  JsonWriter json;
+  json.Object([&] {
+    json.Member("verdict", VerdictText(health.verdict));
+    json.Member("status", TextOrNull(health.system_status.value_or("")));
+    json.Member("source", health.source);
+    json.Member("checked", uint64_t{health.checked});
+    json.Member("ok", uint64_t{health.fine});
+    json.Member("untold", uint64_t{health.untold});
+    json.Member("logRecords", uint64_t{health.log_records});
+    json.Name("findings");
+    json.Array([&] {
+      for (const Finding& finding : health.findings) WriteFinding(json, finding);
+    });
+    WriteRecords(json, health.records);
+  });
+  return std::move(json).Document();
 }
 
 }  // namespace tqcim::tools
