@@ -92,6 +92,10 @@ char* PutUtf8(const void* utf16, size_t units, char* utf8) {
   };
   for (size_t position = 0; position < units; ++position) {
     char32_t codePoint = unitAt(position);
+    if (codePoint < 0x80) {
+      *utf8++ = static_cast<char>(codePoint);
+      continue;
+    }
     if (IsHighSurrogate(codePoint) && position + 1 < units &&
         IsLowSurrogate(unitAt(position + 1))) {
       codePoint = 0x10000 + ((codePoint - 0xD800) << 10) + (unitAt(++position) - 0xDC00U);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "tools/health_classes.h"
+#include "tools/property_words.h"
 #include "tools/provider.h"
 #include "tools/reference.h"
 #include "tools/status.h"
@@ -107,8 +108,8 @@ class PartReader {
     const std::string code = TextOf(instance, kRedundancyStatus);
     // Each group is given once for every chassis.
     if (code.empty() || !groups_.insert(instance.Path()).second) return;
-    const std::string status =
-        MeaningText(instance.Find(kRedundancyStatus)->value, *definition.Find(kRedundancyStatus));
+    const std::string status = PropertyWords(*definition.Find(kRedundancyStatus))
+                                   .Meaning(instance.Find(kRedundancyStatus)->value);
     Count(JudgeRedundancy(code), {.definition = &definition,
                                   .instance = instance,
                                   .property = kRedundancyStatus,

@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-#include "tools/text.h"
+#include "tools/property_words.h"
 
 namespace tqcim::tools {
 namespace {
@@ -22,8 +22,8 @@ std::optional<int64_t> NumberOf(const Finding& finding, std::string_view propert
 }
 
 std::string ValueText(const Finding& finding, std::string_view property) {
-  return ReadableTextWithUnits(finding.instance.Find(property)->value,
-                               *finding.definition->Find(property));
+  return PropertyWords(*finding.definition->Find(property))
+      .ReadableWithUnits(finding.instance.Find(property)->value);
 }
 
 /// A probe without a threshold has 0 there.

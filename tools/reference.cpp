@@ -24,7 +24,7 @@ std::string JoinedKeys(const host::ObjectPath& path) {
   std::string joined;
   for (const host::PathKey& key : path.keys) {
     if (Weight(key) < heaviest) continue;
-    joined += (joined.empty() ? "" : ", ") + PlainText(host::ToValue(key.value));
+    joined += (joined.empty() ? "" : ", ") + PlainText(key.value);
   }
   return joined;
 }

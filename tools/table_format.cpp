@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "tools/formats.h"
-#include "tools/reference.h"
+#include "tools/property_words.h"
 #include "tools/status.h"
 #include "tools/text.h"
 
@@ -18,12 +18,12 @@ const host::Value& ValueOf(const host::Instance& instance, size_t position) {
   return instance.properties[position].value;
 }
 
-/// References without what every one of a class has in common; JSON and CSV have them whole.
-std::string CellText(const host::Value& value, const host::PropertyDefinition& property,
-                     std::string (*text_of)(const host::Value&, const host::PropertyDefinition&)) {
-  const auto* path = std::get_if<std::string>(&value);
-  const bool reference = property.type == host::CimType::kReference && path != nullptr;
-  return reference ? ReadableReference(*path) : text_of(value, property);
+/// Of all properties, by their positions.
+std::vector<PropertyWords> WordsOf(const host::ClassDefinition& definition) {
+  std::vector<PropertyWords> words;
+  words.reserve(definition.properties.size());
+  for (const auto* property : definition.properties) words.emplace_back(*property);
+  return words;
 }
 
 bool Differs(const Listing& listing, size_t position) {
@@ -77,15 +77,14 @@ Columns ChooseColumns(const Listing& listing) {
   return columns;
 }
 
-Table MakeTable(const Listing& listing, const Positions& positions) {
+Table MakeTable(const Listing& listing, const Positions& positions,
+                const std::vector<PropertyWords>& words) {
   const auto& properties = listing.definition->properties;
   Table table;
-  for (const size_t position : positions) table.headings.emplace_back(properties[position]->name);
+  for (const size_t i : positions) table.headings.emplace_back(properties[i]->name);
   for (const host::Instance& instance : listing.instances) {
     std::vector<std::string>& row = table.rows.emplace_back();
-    for (const size_t position : positions) {
-      row.push_back(CellText(ValueOf(instance, position), *properties[position], ReadableText));
-    }
+    for (const size_t i : positions) row.push_back(words[i].Readable(ValueOf(instance, i)));
   }
   return table;
 }
@@ -102,19 +101,18 @@ std::string Heading(const Listing& listing, const Layout& layout) {
 
 /// One line for each of the properties that isn't null.
 std::string PropertyLines(const host::Instance& instance, const Positions& positions,
-                          const host::ClassDefinition& definition, const Layout& layout) {
+                          const std::vector<PropertyWords>& words, const Layout& layout) {
   size_t name_width = 0;
   for (const size_t i : positions) {
-    if (host::IsNull(ValueOf(instance, i))) continue;
-    name_width = std::max(name_width, definition.properties[i]->name.size());
+    const host::Property& property = instance.properties[i];
+    if (!host::IsNull(property.value)) name_width = std::max(name_width, property.name.size());
   }
   const size_t indent = 2 + name_width + 2;
   std::string text;
   for (const size_t i : positions) {
-    const host::PropertyDefinition& property = *definition.properties[i];
-    if (host::IsNull(ValueOf(instance, i))) continue;
-    std::string value = Wrapped(CellText(ValueOf(instance, i), property, ReadableTextWithUnits),
-                                indent, layout.width);
+    const host::Property& property = instance.properties[i];
+    if (host::IsNull(property.value)) continue;
+    std::string value = Wrapped(words[i].ReadableWithUnits(property.value), indent, layout.width);
     if (layout.colour && property.name == kStatus) value = Coloured(value, value);
     std::string line = "  " + std::string(property.name);
     if (!value.empty()) line.append(indent - line.size(), ' ');
@@ -129,10 +127,10 @@ bool HasCutReferences(const Listing& listing, const Layout& layout) {
   size_t total = 0;
   for (size_t i = 0; i < properties.size(); ++i) {
     if (properties[i]->type != host::CimType::kReference) continue;
+    const PropertyWords words(*properties[i]);
     size_t width = 0;
     for (const host::Instance& instance : listing.instances) {
-      const std::string cell = CellText(ValueOf(instance, i), *properties[i], ReadableText);
-      width = std::max(width, ColumnCount(cell));
+      width = std::max(width, ColumnCount(words.Readable(ValueOf(instance, i))));
     }
     total += width + (total > 0 ? kColumnGap : 0);
   }
@@ -149,12 +147,14 @@ std::string JoinedNames(const std::vector<std::string>& names) {
 
 std::string BlockText(const Listing& listing, const Layout& layout) {
   const host::ClassDefinition& definition = *listing.definition;
+  const Positions positions = AllPositions(definition);
+  const std::vector<PropertyWords> words = WordsOf(definition);
   std::string text = Heading(listing, layout);
   for (const host::Instance& instance : listing.instances) {
     text += '\n';
     // The path of an association would say the two references once more.
     if (!definition.association) text += Printable(instance.Path()) + '\n';
-    text += PropertyLines(instance, AllPositions(definition), definition, layout);
+    text += PropertyLines(instance, positions, words, layout);
   }
   return text;
 }
@@ -164,8 +164,9 @@ std::string TableText(const Listing& listing, const Layout& layout) {
     return BlockText(listing, layout);
   }
   const Columns columns = ChooseColumns(listing);
+  const std::vector<PropertyWords> words = WordsOf(*listing.definition);
   const FittedTable fitted =
-      FitTable(MakeTable(listing, columns.positions), columns.mandatory, layout);
+      FitTable(MakeTable(listing, columns.positions, words), columns.mandatory, layout);
   std::string text = Heading(listing, layout);
   if (!columns.positions.empty()) text += '\n' + fitted.text;
   if (!fitted.left_out.empty()) {
@@ -174,7 +175,7 @@ std::string TableText(const Listing& listing, const Layout& layout) {
     text += Wrapped("No room for " + names + "; --full shows everything.", 0, layout.width) + '\n';
   }
   const std::string common =
-      PropertyLines(listing.instances.front(), columns.common, *listing.definition, layout);
+      PropertyLines(listing.instances.front(), columns.common, words, layout);
   if (!common.empty()) text += "\nThe same in all of them:\n" + common;
   return text;
 }

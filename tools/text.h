@@ -5,25 +5,28 @@
 #include <string>
 #include <string_view>
 
-#include "host/schema.h"
 #include "host/value.h"
 
 namespace tqcim::tools {
 
+/// The texts of an array's elements with "; " between them, or that of the one value of what isn't
+/// one. Not for null.
+template <typename Function>
+std::string Joined(const host::Value& value, Function text_of) {
+  const auto* array = std::get_if<host::Array>(&value);
+  if (array == nullptr) return text_of(*host::ToScalar(value));
+  std::string joined;
+  for (const host::Scalar& element : *array) {
+    if (&element != array->data()) joined += "; ";
+    joined += text_of(element);
+  }
+  return joined;
+}
+
 /// A value as plain text: numbers in decimal, booleans as true and false, the elements of an array
-/// separated by "; ". Null is empty.
+/// as above. Null is empty.
+std::string PlainText(const host::Scalar& scalar);
 std::string PlainText(const host::Value& value);
-
-/// A value as a person wants it: beside a code the meaning that the class gives it ("26 (DDR4)"),
-/// beside bytes the larger unit ("34359738368 (32 GiB)"). Null is "-". On one line, printable.
-std::string ReadableText(const host::Value& value, const host::PropertyDefinition& property);
-
-/// The same with the unit of the property: "34359738368 Bytes (32 GiB)".
-std::string ReadableTextWithUnits(const host::Value& value,
-                                  const host::PropertyDefinition& property);
-
-/// What a code means ("DDR4"), or the plain text of a value for which the class has no meaning.
-std::string MeaningText(const host::Value& value, const host::PropertyDefinition& property);
 
 /// The text on one line without anything that a terminal obeys: control characters become \xNN,
 /// malformed UTF-8 becomes U+FFFD.

@@ -22,12 +22,22 @@ class Output {
     ++length_;
   }
 
-  /// Units that are the same in both forms.
+  /// ASCII is the same in both forms: puts what there is of it at the front, and says how much.
   template <typename Other>
-  void PutAll(std::span<const Other> units) {
+  size_t PutAscii(std::span<const Other> units) {
+    const auto is_ascii = [&](size_t i) {
+      return static_cast<std::make_unsigned_t<Other>>(units[i]) < 0x80;
+    };
     const size_t fitting = std::min(units.size(), room_ - std::min(room_, length_));
-    for (size_t i = 0; i < fitting; ++i) text_[length_ + i] = static_cast<Unit>(units[i]);
-    length_ += units.size();
+    size_t count = 0;
+    for (; count < fitting && is_ascii(count); ++count) {
+      text_[length_ + count] = static_cast<Unit>(units[count]);
+    }
+    if (count == fitting) {
+      while (count < units.size() && is_ascii(count)) ++count;
+    }
+    length_ += count;
+    return count;
   }
 
   /// The platform's result: what was written, or is needed where no room was given; 0 for too
@@ -139,17 +149,13 @@ void Put(Output<char>& narrow, char32_t character) {
   narrow.Put(0x80 | (character & 0x3F));
 }
 
-/// Converts a text. Its runs of ASCII, which most texts are from end to end, go as they are.
+/// Converts a text, most of which is ASCII from end to end.
 template <typename From, typename To>
 void Convert(std::span<const From> rest, Output<To>& output) {
-  while (!rest.empty()) {
-    const auto end = std::find_if(rest.begin(), rest.end(), [](From unit) {
-      return static_cast<std::make_unsigned_t<From>>(unit) >= 0x80;
-    });
-    const auto length = static_cast<size_t>(end - rest.begin());
-    output.PutAll(rest.first(length));
-    rest = rest.subspan(length);
-    if (!rest.empty()) Put(output, TakeCharacter(rest));
+  for (;;) {
+    rest = rest.subspan(output.PutAscii(rest));
+    if (rest.empty()) return;
+    Put(output, TakeCharacter(rest));
   }
 }
 

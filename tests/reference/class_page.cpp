@@ -75,8 +75,8 @@ std::string CodeTables(const host::ClassDefinition& definition, const ClassNotes
     if (!codes || !words || !SourceOf(notes, property->name)) continue;
     text += "\n" + Code(property->name) + ":";
     for (size_t i = 0; i < codes->size(); ++i) {
-      text += (i == 0 ? " " : "; ") + Code(tools::PlainText(host::ToValue((*codes)[i]))) + " " +
-              tools::PlainText(host::ToValue((*words)[i]));
+      text += (i == 0 ? " " : "; ") + Code(tools::PlainText((*codes)[i])) + " " +
+              tools::PlainText((*words)[i]);
     }
     text += "\n";
   }
