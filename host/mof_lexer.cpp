@@ -125,6 +125,10 @@ Scalar LiteralOf(const MofToken& token) {
   return static_cast<int64_t>(ToWide(meaning)[0]);
 }
 
+void MofLexer::Refuse(size_t position, std::string_view reason) const {
+  throw MofError(source_, text_.substr(position), std::string(reason));
+}
+
 void MofLexer::SkipBlanks() {
   for (;;) {
     SkipAll([](char c) { return SortOf(c) == Sort::kBlank; });
@@ -145,11 +149,16 @@ void MofLexer::SkipComment() {
   }
 }
 
-MofToken MofLexer::Next() {
-  SkipBlanks();
+void MofLexer::RequireLength(size_t start) const {
+  if (position_ - start <= kLongestWord) return;
+  Refuse(start, "a word of more than " + std::to_string(kLongestWord) + " characters");
+}
+
+MofToken::Kind MofLexer::Identifier() {
   const size_t start = position_;
-  const MofToken::Kind kind = Pass();
-  return {kind, Since(start)};
+  SkipAll(IsWordCharacter);
+  RequireLength(start);
+  return MofToken::Kind::kIdentifier;
 }
 
 MofToken::Kind MofLexer::Pass() {
@@ -173,16 +182,11 @@ MofToken::Kind MofLexer::Pass() {
   Refuse(position_, "a character that MOF has no use for");
 }
 
-void MofLexer::RequireLength(size_t start) const {
-  if (position_ - start <= kLongestWord) return;
-  Refuse(start, "a word of more than " + std::to_string(kLongestWord) + " characters");
-}
-
-MofToken::Kind MofLexer::Identifier() {
+MofToken MofLexer::Next() {
+  SkipBlanks();
   const size_t start = position_;
-  SkipAll(IsWordCharacter);
-  RequireLength(start);
-  return MofToken::Kind::kIdentifier;
+  const MofToken::Kind kind = Pass();
+  return {kind, Since(start)};
 }
 
 MofToken::Kind MofLexer::Character() {

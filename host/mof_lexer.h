@@ -51,13 +51,12 @@ class MofLexer {
     position_ = next;
   }
   /// What stands between a position that has been passed and this one.
-  std::string_view Since(size_t start) const { return text_.substr(start, position_ - start); }
-  [[noreturn]] void Refuse(size_t position, const std::string& reason) const {
-    throw MofError(source_, text_.substr(position), reason);
-  }
+  std::string_view Since(size_t start) const { return {text_.data() + start, position_ - start}; }
+  [[noreturn]] void Refuse(size_t position, std::string_view reason) const;
   /// Of the word that ends here.
   void RequireLength(size_t start) const;
-  void SkipBlanks();
+  // What is inline is so for Next, which most of the reading of a schema is.
+  inline void SkipBlanks();
   void SkipComment();
   /// Each of these goes past what starts here, and adds what it stands for to a text that is not
   /// null.
@@ -67,8 +66,8 @@ class MofLexer {
   /// Goes on to the quote that stands there, or to a backslash or the end of the line before it.
   void SkipPlainText(size_t quote);
   /// Each goes past the token that starts here, and tells its kind.
-  MofToken::Kind Pass();
-  MofToken::Kind Identifier();
+  inline MofToken::Kind Pass();
+  inline MofToken::Kind Identifier();
   MofToken::Kind Text();
   MofToken::Kind Character();
   MofToken::Kind Number();
