@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 
 #include "tools/health.h"
 #include "tools/health_parts.h"
@@ -73,7 +75,8 @@ std::string HealthJson(const Health& health) {
   JsonWriter json;
   json.Object([&] {
     json.Member("verdict", VerdictText(health.verdict));
-    json.Member("status", TextOrNull(health.system_status.value_or("")));
+    json.Member("status",
+                health.system_status ? host::Value(*health.system_status) : host::Value());
     json.Member("source", health.source);
     json.Member("checked", uint64_t{health.checked});
     json.Member("ok", uint64_t{health.fine});

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdint>
+#include <concepts>
+#include <iterator>
 #include <nlohmann/json.hpp>
+#include <type_traits>
+#include <variant>
 
 namespace tqcim::tools {
 namespace {
@@ -48,17 +51,17 @@ void JsonWriter::Name(std::string_view name) {
 }
 
 void JsonWriter::Value(const host::Value& value) {
-  if (const auto* array = std::get_if<host::Array>(&value)) {
-    return Array([&] {
-      for (const host::Scalar& item : *array) Value(host::ToValue(item));
-    });
-  }
-  BeginItem();
-  std::visit(
-      [&](const auto& held) {
-        if constexpr (!std::is_same_v<decltype(held), const host::Array&>) Append(text_, held);
-      },
-      value);
+  const auto write = [this](const auto& held) {
+    if constexpr (std::is_same_v<decltype(held), const host::Array&>) {
+      Array([&] {
+        for (const host::Scalar& item : held) Value(host::ToValue(item));
+      });
+    } else {
+      BeginItem();
+      Append(text_, held);
+    }
+  };
+  std::visit(write, value);
 }
 
 void JsonWriter::Begin(char bracket) {

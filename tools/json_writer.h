@@ -1,6 +1,7 @@
 /// JSON text, written as it goes: a document of a whole server is never held as a tree.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
