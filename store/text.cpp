@@ -37,12 +37,9 @@ char32_t TakeCodePoint(std::string_view utf8, size_t& position) {
   return codePoint;
 }
 
+/// Of more than one byte.
 char* PutCodePoint(char32_t codePoint, char* utf8) {
   const auto put = [&](char32_t byte) { *utf8++ = static_cast<char>(static_cast<uint8_t>(byte)); };
-  if (codePoint < 0x80) {
-    put(codePoint);
-    return utf8;
-  }
   if (codePoint < 0x800) {
     put(0xC0 | codePoint >> 6);
   } else if (codePoint < 0x10000) {

@@ -32,8 +32,7 @@ struct LogEntry {
 
 /// Something that is wrong.
 struct Finding {
-  const host::ClassDefinition* definition = nullptr;
-  host::Instance instance = {};
+  host::Instance instance;
   /// The instance's Name, or else its keys.
   std::string name = {};
   /// The property that tells the fault, and what it says.

@@ -35,7 +35,7 @@ void WriteRecords(JsonWriter& json, const std::vector<LogEntry>& records) {
 }
 
 host::Value UnitOf(const Finding& finding) {
-  const host::PropertyDefinition* reading = finding.definition->Find("CurrentReading");
+  const host::PropertyDefinition* reading = finding.instance.definition->Find("CurrentReading");
   return reading == nullptr ? host::Value() : TextOrNull(reading->Units());
 }
 
@@ -55,7 +55,7 @@ void WriteThresholds(JsonWriter& json, const host::Instance& instance) {
 
 void WriteFinding(JsonWriter& json, const Finding& finding) {
   json.Object([&] {
-    json.Member("class", std::string(finding.definition->name));
+    json.Member("class", std::string(finding.instance.definition->name));
     json.Member("path", finding.instance.Path());
     json.Member("name", finding.name);
     json.Member("verdict", VerdictText(finding.severity));

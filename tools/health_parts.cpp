@@ -83,7 +83,7 @@ class PartReader {
     const std::string status = TextOf(instance, kStatus);
     // An empty socket, for example, has none.
     if (status.empty() || WasDiscrete(definition, instance, status)) return;
-    Count(Judge(status), {.definition = &definition, .instance = instance, .status = status});
+    Count(Judge(status), {.instance = instance, .status = status});
   }
 
   /// Whether the instance is the second one of a probe. Of probes that have everything in common it
@@ -110,10 +110,8 @@ class PartReader {
     if (code.empty() || !groups_.insert(instance.Path()).second) return;
     const std::string status = PropertyWords(*definition.Find(kRedundancyStatus))
                                    .Meaning(instance.Find(kRedundancyStatus)->value);
-    Count(JudgeRedundancy(code), {.definition = &definition,
-                                  .instance = instance,
-                                  .property = kRedundancyStatus,
-                                  .status = status});
+    Count(JudgeRedundancy(code),
+          {.instance = instance, .property = kRedundancyStatus, .status = status});
   }
 
   void Count(std::optional<Verdict> severity, Finding finding) {
@@ -144,10 +142,8 @@ class PartReader {
       if (severity.value_or(Verdict::kOk) == Verdict::kOk || IsExplained(roll_up, *severity)) {
         continue;
       }
-      Add(*severity, {.definition = &Definition(roll_up.class_name),
-                      .instance = instance,
-                      .property = std::string(roll_up.property),
-                      .status = status});
+      Add(*severity,
+          {.instance = instance, .property = std::string(roll_up.property), .status = status});
     }
   }
 
@@ -155,7 +151,7 @@ class PartReader {
     const auto& parts = roll_up.parts;
     return std::any_of(
         health_.findings.begin(), health_.findings.end(), [&](const Finding& finding) {
-          const std::string_view name = finding.definition->name;
+          const std::string_view name = finding.instance.definition->name;
           return finding.severity >= severity &&
                  (parts.empty() || std::find(parts.begin(), parts.end(), name) != parts.end());
         });

@@ -22,7 +22,7 @@ std::optional<int64_t> NumberOf(const Finding& finding, std::string_view propert
 }
 
 std::string ValueText(const Finding& finding, std::string_view property) {
-  return PropertyWords(*finding.definition->Find(property))
+  return PropertyWords(*finding.instance.definition->Find(property))
       .ReadableWithUnits(finding.instance.Find(property)->value);
 }
 

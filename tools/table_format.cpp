@@ -122,15 +122,15 @@ std::string PropertyLines(const host::Instance& instance, const Positions& posit
 }
 
 /// Whether references are too long for columns: cut, they might all look the same.
-bool HasCutReferences(const Listing& listing, const Layout& layout) {
+bool HasCutReferences(const Listing& listing, const std::vector<PropertyWords>& words,
+                      const Layout& layout) {
   const auto& properties = listing.definition->properties;
   size_t total = 0;
   for (size_t i = 0; i < properties.size(); ++i) {
     if (properties[i]->type != host::CimType::kReference) continue;
-    const PropertyWords words(*properties[i]);
     size_t width = 0;
     for (const host::Instance& instance : listing.instances) {
-      width = std::max(width, ColumnCount(words.Readable(ValueOf(instance, i))));
+      width = std::max(width, ColumnCount(words[i].Readable(ValueOf(instance, i))));
     }
     total += width + (total > 0 ? kColumnGap : 0);
   }
@@ -160,11 +160,11 @@ std::string BlockText(const Listing& listing, const Layout& layout) {
 }
 
 std::string TableText(const Listing& listing, const Layout& layout) {
-  if (listing.instances.size() < 2 || HasCutReferences(listing, layout)) {
+  const std::vector<PropertyWords> words = WordsOf(*listing.definition);
+  if (listing.instances.size() < 2 || HasCutReferences(listing, words, layout)) {
     return BlockText(listing, layout);
   }
   const Columns columns = ChooseColumns(listing);
-  const std::vector<PropertyWords> words = WordsOf(*listing.definition);
   const FittedTable fitted =
       FitTable(MakeTable(listing, columns.positions, words), columns.mandatory, layout);
   std::string text = Heading(listing, layout);

@@ -133,8 +133,8 @@ void Put(Output<WCHAR>& wide, char32_t character) {
   wide.Put(0xDC00 + ((character - 0x10000) & 0x3FF));
 }
 
+/// One that is not ASCII.
 void Put(Output<char>& narrow, char32_t character) {
-  if (character < 0x80) return narrow.Put(character);
   if (character < 0x800) {
     narrow.Put(0xC0 | character >> 6);
   } else {
