@@ -20,13 +20,12 @@ const char* VerdictText(Verdict verdict);
 
 /// A record of an event log.
 struct LogEntry {
-  std::string log;  ///< its class
-  std::string path;
-  std::string time;  ///< as CIM writes it, in local time; empty where the record doesn't tell
-  std::string severity;
-  std::string text;
+  host::Instance instance = {};
+  std::string time = {};  ///< as CIM writes it, in local time; empty where the record doesn't tell
+  std::string severity = {};
+  std::string text = {};
   /// For the order of records of both logs; a record without a time counts as of the one before it.
-  std::string sort_time;
+  std::string sort_time = {};
   size_t sequence = 0;
 };
 

@@ -24,8 +24,8 @@ void WriteRecords(JsonWriter& json, const std::vector<LogEntry>& records) {
   json.Array([&] {
     for (const LogEntry& record : records) {
       json.Object([&] {
-        json.Member("class", record.log);
-        json.Member("path", record.path);
+        json.Member("class", std::string(record.instance.definition->name));
+        json.Member("path", record.instance.Path());
         json.Member("time", TextOrNull(record.time));
         json.Member("status", record.severity);
         json.Member("text", record.text);

@@ -54,17 +54,15 @@ void Take(const LogEntry& entry, Health& health) {
 void ReadRecords(host::ManagementHost& host, Health& health) {
   for (const std::string_view log : kLogClasses) {
     std::string last_time;
-    ForEach(host, log, [&](const host::Instance& instance) {
-      const std::string time = TextOf(instance, "EventTime");
-      if (!time.empty()) last_time = time;
-      Take({.log = std::string(log),
-            .path = instance.Path(),
-            .time = time,
-            .severity = TextOf(instance, "Status"),
-            .text = TextOf(instance, "LogRecord"),
-            .sort_time = last_time,
-            .sequence = health.log_records},
-           health);
+    ForEach(host, log, [&](host::Instance instance) {
+      LogEntry entry{.time = TextOf(instance, "EventTime"),
+                     .severity = TextOf(instance, "Status"),
+                     .text = TextOf(instance, "LogRecord"),
+                     .sequence = health.log_records};
+      if (!entry.time.empty()) last_time = entry.time;
+      entry.sort_time = last_time;
+      entry.instance = std::move(instance);
+      Take(entry, health);
       ++health.log_records;
     });
   }

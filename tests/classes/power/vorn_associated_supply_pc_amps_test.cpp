@@ -180,37 +180,5 @@ TEST_F(VornAssociatedSupplyPcAmpsTest, AProbeThatCannotBeReadEndsTheWalkOfEveryS
   EXPECT_EQ(0u, definition.Spawns());
 }
 
-TEST_F(VornAssociatedSupplyPcAmpsTest, ReturnsTheReferencesThatAreLeftAfterTheLastRelease) {
-  sink.KeepInstances();
-  EXPECT_EQ(1, Associate());
-}
-
-TEST_F(VornAssociatedSupplyPcAmpsTest, IgnoresTheSinksRefusal) {
-  sink.SetIndicateResult(Hr(0x80041032));
-  EXPECT_EQ(0, Associate());
-}
-
-TEST_F(VornAssociatedSupplyPcAmpsTest, AFailedSpawnEndsItWithTheLastRelease) {
-  store.Object(301).Ucs2(72, u"PS 1");
-  sink.KeepInstances();
-  definition.SpawnNothing(1, Hr(0x80041006));
-  EXPECT_EQ(1, Associate());
-  EXPECT_EQ(1u, DeliveredCount());
-}
-
-TEST_F(VornAssociatedSupplyPcAmpsTest, AFirstSpawnWithoutAnInstanceIsSuccess) {
-  store.Object(301).Ucs2(72, u"PS 1");
-  definition.SpawnNothing(0, Hr(0x80041006));
-  definition.SpawnNothing(1, S_OK);
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(2u, definition.Spawns());
-  EXPECT_EQ(0u, DeliveredCount());
-}
-
-TEST_F(VornAssociatedSupplyPcAmpsTest, IsNeverGot) {
-  ExpectNeverGot("VORN_AssociatedSupplyPCAmps");
-}
-
 }  // namespace
 }  // namespace tqcim::testing

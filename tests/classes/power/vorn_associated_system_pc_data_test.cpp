@@ -51,36 +51,5 @@ TEST_F(VornAssociatedSystemPcDataTest, AnUnreadableRecordEndsTheEnumeration) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
-TEST_F(VornAssociatedSystemPcDataTest, ReturnsTheReferencesThatAreLeftAfterTheLastRelease) {
-  sink.KeepInstances();
-  EXPECT_EQ(1, Associate());
-}
-
-TEST_F(VornAssociatedSystemPcDataTest, IgnoresTheSinksRefusals) {
-  sink.SetIndicateResult(Hr(0x80041032));
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(2u, DeliveredCount());
-}
-
-TEST_F(VornAssociatedSystemPcDataTest, AFailedSpawnEndsItWithTheLastRelease) {
-  sink.KeepInstances();
-  definition.SpawnNothing(1, Hr(0x80041006));
-  EXPECT_EQ(1, Associate());
-  EXPECT_EQ(1u, DeliveredCount());
-}
-
-TEST_F(VornAssociatedSystemPcDataTest, AFirstSpawnWithoutAnInstanceIsSuccess) {
-  definition.SpawnNothing(0, Hr(0x80041006));
-  definition.SpawnNothing(1, S_OK);
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(2u, definition.Spawns());
-  EXPECT_EQ(0u, DeliveredCount());
-}
-
-TEST_F(VornAssociatedSystemPcDataTest, IsNeverGot) {
-  ExpectNeverGot("VORN_AssociatedSystemPCData");
-}
-
 }  // namespace
 }  // namespace tqcim::testing

@@ -73,36 +73,5 @@ TEST_F(VornAssociatedSystemPcWattsTest, AnUnreadableProbeEndsTheEnumeration) {
   EXPECT_EQ(1u, DeliveredCount());
 }
 
-TEST_F(VornAssociatedSystemPcWattsTest, ReturnsTheReferencesThatAreLeftAfterTheLastRelease) {
-  sink.KeepInstances();
-  EXPECT_EQ(1, Associate());
-}
-
-TEST_F(VornAssociatedSystemPcWattsTest, IgnoresTheSinksRefusals) {
-  sink.SetIndicateResult(Hr(0x80041032));
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(3u, DeliveredCount());
-}
-
-TEST_F(VornAssociatedSystemPcWattsTest, AFailedSpawnEndsItWithTheLastRelease) {
-  sink.KeepInstances();
-  definition.SpawnNothing(1, Hr(0x80041006));
-  EXPECT_EQ(1, Associate());
-  EXPECT_EQ(1u, DeliveredCount());
-}
-
-TEST_F(VornAssociatedSystemPcWattsTest, AFirstSpawnWithoutAnInstanceIsSuccess) {
-  definition.SpawnNothing(0, Hr(0x80041006));
-  definition.SpawnNothing(1, S_OK);
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(2u, definition.Spawns());
-  EXPECT_EQ(0u, DeliveredCount());
-}
-
-TEST_F(VornAssociatedSystemPcWattsTest, IsNeverGot) {
-  ExpectNeverGot("VORN_AssociatedSystemPCWatts");
-}
-
 }  // namespace
 }  // namespace tqcim::testing

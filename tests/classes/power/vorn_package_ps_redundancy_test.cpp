@@ -99,37 +99,5 @@ TEST_F(VornPackagePsRedundancyTest, AnUnreadableGroupEndsTheGroupsOfItsChassis) 
   EXPECT_EQ(Ends(kShelfB, kSpare1), Delivered(2));
 }
 
-TEST_F(VornPackagePsRedundancyTest, ReturnsTheReferencesThatAreLeftAfterTheLastRelease) {
-  sink.KeepInstances();
-  EXPECT_EQ(1, Associate());
-}
-
-TEST_F(VornPackagePsRedundancyTest, IgnoresTheSinksRefusals) {
-  sink.SetIndicateResult(Hr(0x80041032));
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(4u, DeliveredCount());
-}
-
-TEST_F(VornPackagePsRedundancyTest, AFailedSpawnEndsItWithTheLastRelease) {
-  sink.KeepInstances();
-  definition.SpawnNothing(1, Hr(0x80041006));
-  EXPECT_EQ(1, Associate());
-  EXPECT_EQ(1u, DeliveredCount());
-  EXPECT_EQ(2u, definition.Spawns());
-}
-
-TEST_F(VornPackagePsRedundancyTest, AFirstSpawnWithoutAnInstanceIsSuccess) {
-  definition.SpawnNothing(0, Hr(0x80041006));
-  definition.SpawnNothing(1, S_OK);
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(2u, definition.Spawns());
-  EXPECT_EQ(0u, DeliveredCount());
-}
-
-TEST_F(VornPackagePsRedundancyTest, IsNeverGot) {
-  ExpectNeverGot("VORN_PackagePSRedundancy");
-}
-
 }  // namespace
 }  // namespace tqcim::testing

@@ -148,36 +148,5 @@ TEST_F(VornPsRedundancyTest, ASupplyThatFailsToBeReadOnceGoesToTheNextGroup) {
   EXPECT_EQ(Ends(kMemberSupply2, kSpare0), Delivered(1));
 }
 
-TEST_F(VornPsRedundancyTest, ReturnsTheReferencesThatAreLeftAfterTheLastRelease) {
-  sink.KeepInstances();
-  EXPECT_EQ(1, Associate());
-}
-
-TEST_F(VornPsRedundancyTest, IgnoresTheSinksRefusals) {
-  sink.SetIndicateResult(Hr(0x80041032));
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(2u, DeliveredCount());
-}
-
-TEST_F(VornPsRedundancyTest, AFailedSpawnEndsItWithTheLastRelease) {
-  sink.KeepInstances();
-  definition.SpawnNothing(1, Hr(0x80041006));
-  EXPECT_EQ(1, Associate());
-  EXPECT_EQ(1u, DeliveredCount());
-}
-
-TEST_F(VornPsRedundancyTest, AFirstSpawnWithoutAnInstanceIsSuccess) {
-  definition.SpawnNothing(0, Hr(0x80041006));
-  definition.SpawnNothing(1, S_OK);
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(0, Associate());
-  EXPECT_EQ(2u, definition.Spawns());
-  EXPECT_EQ(0u, DeliveredCount());
-}
-
-TEST_F(VornPsRedundancyTest, IsNeverGot) {
-  ExpectNeverGot("VORN_PSRedundancy");
-}
-
 }  // namespace
 }  // namespace tqcim::testing
