@@ -32,7 +32,7 @@ DataObject GetChildObject(uint32_t parentOid, uint16_t objectType, uint16_t inde
 
 DataObject GetObjectByCursor(uint32_t& outer, uint32_t& inner, uint16_t objectType) {
   const OidList chassis = ListChildren(layout::system::kRootOid, layout::chassis::kType);
-  for (; outer < chassis.size(); ++outer, inner = 0) {
+  for (; outer < chassis.size() && outer < kPositionLimit; ++outer, inner = 0) {
     const OidList children = ListChildren(chassis[outer], objectType);
     if (!children) break;
     if (inner < children.size()) {

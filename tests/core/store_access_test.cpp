@@ -213,5 +213,14 @@ TEST_F(CursorTest, EndsBehindPosition65535OfAList) {
   EXPECT_EQ(0u, Next());
 }
 
+TEST_F(CursorTest, EndsBehindTheChassisAtPosition65535) {
+  std::vector<uint32_t> chassis(65'536, 3);
+  chassis.push_back(5);
+  store.List(1, 17, chassis);
+  outer = 65'534;
+  EXPECT_EQ(0u, Next());
+  EXPECT_EQ(65'536u, outer);
+}
+
 }  // namespace
 }  // namespace tqcim::testing
