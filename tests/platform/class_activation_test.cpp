@@ -51,60 +51,61 @@ HRESULT Create(void** object) {
   return CoCreateInstance(kClass, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, object);
 }
 
-TEST(ClassActivation, ARegisteredClassIsCreatedByItsFactory) {
-  OnNewThread([] {
-    const ComOnThread com;
-    CountedObject product;
-    Factory factory(&product);
-    DWORD cookie = 0;
-    ASSERT_EQ(S_OK, Register(&factory, &cookie));
-    EXPECT_NE(0u, cookie);
-    EXPECT_EQ(1u, factory.References());
-    void* object = nullptr;
-    EXPECT_EQ(S_OK, Create(&object));
-    EXPECT_EQ(static_cast<IUnknown*>(&product), object);
-    EXPECT_EQ(1u, product.References());
-    EXPECT_EQ(1u, factory.References());
+/// COM on this thread, and a class that is registered as long as this lives.
+class RegisteredClass {
+ public:
+  RegisteredClass() { EXPECT_EQ(S_OK, Register(&factory, &cookie)); }
+  ~RegisteredClass() {
     EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
     EXPECT_EQ(0u, factory.References());
+  }
+  RegisteredClass(const RegisteredClass&) = delete;
+  RegisteredClass& operator=(const RegisteredClass&) = delete;
+
+  const ComOnThread com;
+  CountedObject product;
+  Factory factory{&product};
+  DWORD cookie = 0;
+};
+
+TEST(ClassActivation, ARegisteredClassIsCreatedByItsFactory) {
+  OnNewThread([] {
+    RegisteredClass registered;
+    EXPECT_NE(0u, registered.cookie);
+    EXPECT_EQ(1u, registered.factory.References());
+    void* object = nullptr;
+    EXPECT_EQ(S_OK, Create(&object));
+    EXPECT_EQ(static_cast<IUnknown*>(&registered.product), object);
+    EXPECT_EQ(1u, registered.product.References());
+    EXPECT_EQ(1u, registered.factory.References());
   });
 }
 
 TEST(ClassActivation, TheClassObjectIsTheRegisteredFactory) {
   OnNewThread([] {
-    const ComOnThread com;
-    CountedObject product;
-    Factory factory(&product);
-    DWORD cookie = 0;
-    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    RegisteredClass registered;
     void* object = nullptr;
     EXPECT_EQ(S_OK,
               CoGetClassObject(kClass, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, &object));
-    EXPECT_EQ(static_cast<IClassFactory*>(&factory), object);
-    EXPECT_EQ(2u, factory.References());
-    factory.Release();
+    EXPECT_EQ(static_cast<IClassFactory*>(&registered.factory), object);
+    EXPECT_EQ(2u, registered.factory.References());
+    registered.factory.Release();
     EXPECT_EQ(E_NOINTERFACE,
               CoGetClassObject(kClass, CLSCTX_INPROC_SERVER, nullptr, IID_IWbemServices, &object));
     EXPECT_EQ(nullptr, object);
-    EXPECT_EQ(1u, factory.References());
-    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+    EXPECT_EQ(1u, registered.factory.References());
   });
 }
 
 TEST(ClassActivation, TheFactorysRefusalIsTheResult) {
   OnNewThread([] {
-    const ComOnThread com;
-    CountedObject product;
-    Factory factory(&product);
-    DWORD cookie = 0;
-    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    RegisteredClass registered;
     void* object = &object;
     EXPECT_EQ(E_NOINTERFACE,
               CoCreateInstance(kClass, nullptr, CLSCTX_INPROC_SERVER, IID_IWbemLocator, &object));
     EXPECT_EQ(nullptr, object);
-    EXPECT_EQ(1u, factory.References());
-    EXPECT_EQ(0u, product.References());
-    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+    EXPECT_EQ(1u, registered.factory.References());
+    EXPECT_EQ(0u, registered.product.References());
   });
 }
 
@@ -137,16 +138,11 @@ TEST(ClassActivation, ARevokedClassIsNotRegistered) {
 
 TEST(ClassActivation, OneOfTheAskedContextsIsEnough) {
   OnNewThread([] {
-    const ComOnThread com;
-    CountedObject product;
-    Factory factory(&product);
-    DWORD cookie = 0;
-    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    RegisteredClass registered;
     void* object = nullptr;
     EXPECT_EQ(S_OK, CoCreateInstance(kClass, nullptr, CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER,
                                      IID_IUnknown, &object));
-    EXPECT_EQ(1u, product.References());
-    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+    EXPECT_EQ(1u, registered.product.References());
   });
 }
 
@@ -166,17 +162,12 @@ TEST(ClassActivation, NeedsCom) {
 
 TEST(ClassActivation, AThreadWithoutComUsesTheMultithreadedApartment) {
   OnNewThread([] {
-    const ComOnThread com;
-    CountedObject product;
-    Factory factory(&product);
-    DWORD cookie = 0;
-    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    RegisteredClass registered;
     OnNewThread([&] {
       void* object = nullptr;
       EXPECT_EQ(S_OK, Create(&object));
-      EXPECT_EQ(static_cast<IUnknown*>(&product), object);
+      EXPECT_EQ(static_cast<IUnknown*>(&registered.product), object);
     });
-    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
   });
 }
 
