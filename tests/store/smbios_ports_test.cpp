@@ -4,20 +4,8 @@
 #include "tests/store/smbios_bytes.h"
 #include "tests/store/smbios_snapshot.h"
 
-namespace tqcim::store::smbios {
+namespace tqcim::testing {
 namespace {
-
-using tqcim::testing::BytesOf;
-using tqcim::testing::ByteVector;
-using tqcim::testing::Oids;
-using tqcim::testing::Shortened;
-using tqcim::testing::SnapshotOfStructures;
-using tqcim::testing::Text;
-using tqcim::testing::U16;
-using tqcim::testing::U32;
-using tqcim::testing::U8;
-using tqcim::testing::With;
-using tqcim::testing::WithStrings;
 
 constexpr uint32_t kParallelPort = 192 * 65536 + 1;
 constexpr uint32_t kSerialPort = 193 * 65536 + 1;
@@ -176,4 +164,4 @@ TEST(SmbiosPointingDevice, IsOneForEveryStructure) {
 }
 
 }  // namespace
-}  // namespace tqcim::store::smbios
+}  // namespace tqcim::testing

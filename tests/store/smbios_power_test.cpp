@@ -4,20 +4,8 @@
 #include "tests/store/smbios_bytes.h"
 #include "tests/store/smbios_snapshot.h"
 
-namespace tqcim::store::smbios {
+namespace tqcim::testing {
 namespace {
-
-using tqcim::testing::BytesOf;
-using tqcim::testing::ByteVector;
-using tqcim::testing::Oids;
-using tqcim::testing::Shortened;
-using tqcim::testing::SnapshotOfStructures;
-using tqcim::testing::Text;
-using tqcim::testing::U16;
-using tqcim::testing::U32;
-using tqcim::testing::U8;
-using tqcim::testing::With;
-using tqcim::testing::WithStrings;
 
 constexpr uint32_t kSupply = 21 * 65536 + 1;
 
@@ -30,7 +18,7 @@ const std::initializer_list<std::string_view> kSupplyStrings = {
     "Left Supply Bay", "DR-36", "Vorn", "SN1", "TAG1", "P1", "R1"};
 
 /// The snapshot of one supply with these characteristics.
-std::unique_ptr<Snapshot> SupplyOf(uint16_t characteristics) {
+std::unique_ptr<store::Snapshot> SupplyOf(uint16_t characteristics) {
   return SnapshotOfStructures(
       {WithStrings(With(kSupplyStructure, {{0x0E, static_cast<uint8_t>(characteristics)},
                                            {0x0F, static_cast<uint8_t>(characteristics >> 8)}}),
@@ -148,4 +136,4 @@ TEST(SmbiosPowerSupply, ARecordThatEndsBeforeItsCharacteristicsIsNone) {
 }
 
 }  // namespace
-}  // namespace tqcim::store::smbios
+}  // namespace tqcim::testing

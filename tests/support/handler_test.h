@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <vector>
 
 #include "tests/support/computer_name.h"
@@ -12,6 +13,11 @@
 #include "tests/support/ledger.h"
 
 namespace tqcim::testing {
+
+/// Names the instances of a test for several classes.
+inline constexpr auto kClassName = [](const auto& tested) {
+  return std::string(tested.param.name);
+};
 
 /// A result from its bits, as WMI's documentation writes it: Hr(0x80041002) is "not found".
 constexpr HRESULT Hr(uint32_t bits) {

@@ -1,7 +1,76 @@
-#include "tests/classes/chassis_sensors/sensor_package_test.h"
+// What the associations between a chassis and its numeric sensors have in common: all but the type
+// of the sensors and the beginning of the reference to one.
+#include <ostream>
+
+#include "tests/classes/chassis_sensors/several_chassis.h"
 
 namespace tqcim::testing {
 namespace {
+
+struct PackageClass {
+  const char* name;
+  uint16_t objectType;
+  const char* sensor;  ///< its class and the first of its keys, as the reference has them
+};
+
+std::ostream& operator<<(std::ostream& out, const PackageClass& packageClass) {
+  return out << packageClass.name;
+}
+
+/// Two chassis without sensors. Sensors are listed and not read: there are none to read.
+class SensorPackageTest : public SeveralChassisTest,
+                          public ::testing::WithParamInterface<PackageClass> {
+ protected:
+  SensorPackageTest() { ListChassis({2, 3}); }
+
+  void ListSensors(uint32_t chassisOid, size_t count) {
+    store.List(chassisOid, kType, std::vector<uint32_t>(count, 999));
+  }
+
+  HRESULT EnumerateClass() { return Enumerate(kName); }
+
+  /// "Chassis 2: 0" for the pair of that chassis and that sensor number.
+  Texts Pairs() const {
+    Texts pairs;
+    for (size_t i = 0; i < DeliveredCount(); ++i) {
+      pairs.push_back(KeyOf(Value(i, "Dependent"), "Tag") + ": " +
+                      KeyOf(Value(i, "Antecedent"), "DeviceID"));
+    }
+    return pairs;
+  }
+
+  const char* const kName = GetParam().name;
+  const uint16_t kType = GetParam().objectType;
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Classes, SensorPackageTest,
+    ::testing::Values(
+        // The doubled C is what consumers of this reference know.
+        PackageClass{"CIM_PackageCurrentSensor", 25,
+                     R"(CIM_CurrentSensor.CreationClassName="CCIM_CurrentSensor")"},
+        PackageClass{"CIM_PackageFanSensor", 23, R"(CIM_Fan.CreationClassName="CIM_Fan")"},
+        PackageClass{"CIM_PackageTempSensor", 22,
+                     R"(CIM_TemperatureSensor.CreationClassName="CIM_TemperatureSensor")"},
+        PackageClass{"CIM_PackageVoltSensor", 24,
+                     R"(CIM_VoltageSensor.CreationClassName="CIM_VoltageSensor")"}),
+    kClassName);
+
+TEST_P(SensorPackageTest, PutsTheChassisThenTheSensor) {
+  ListChassis({2});
+  ListSensors(2, 2);
+  EXPECT_EQ(0, EnumerateClass());
+  ASSERT_EQ(2u, DeliveredCount());
+  EXPECT_EQ(
+      (Puts{
+          {"Dependent", VT_BSTR, 0,
+           R"(\\.\root\cimv2\vorn:VORN_Chassis.CreationClassName="VORN_Chassis",Tag="Chassis 2")"},
+          {"Antecedent", VT_BSTR, 0,
+           R"(\\.\root\cimv2\vorn:)" + std::string(GetParam().sensor) +
+               R"(,SystemName="RACK42-NODE0007",DeviceID="1",)"
+               R"(SystemCreationClassName="CIM_ComputerSystem")"}}),
+      Delivered(1));
+}
 
 TEST_P(SensorPackageTest, PairsEverySensorOfOneChassis) {
   ListChassis({2});
@@ -151,6 +220,29 @@ TEST_P(SensorPackageTest, IsNeverFoundByKeys) {
   keys.FailCount(Hr(0x80041008));
   EXPECT_EQ(Hr(0x80041002), Get(kName, keys));
   EXPECT_EQ(Texts{}, store.Calls());
+}
+
+using SensorPackagesTest = SeveralChassisTest;
+
+TEST_F(SensorPackagesTest, FansOfALaterChassisAreNumberedAsProbesAndNotAsFans) {
+  ListChassis({2, 3});
+  ListProbes(2, 23, {});
+  ListProbes(3, 23, {301});
+  Enumerate("CIM_PackageFanSensor");
+  Enumerate("CIM_Fan");
+  ASSERT_EQ(2u, DeliveredCount());
+  EXPECT_EQ("100", KeyOf(Value(0, "Antecedent"), "DeviceID"));
+  EXPECT_EQ("0", Value(1, "DeviceID"));
+}
+
+/// One of the four goes the whole way of their walk.
+TEST_F(SensorPackagesTest, TheNumbersEndAt65535) {
+  ListChassis({2, 3});
+  store.List(2, 24, std::vector<uint32_t>(65'540, 999));
+  store.List(3, 24, std::vector<uint32_t>(65'541, 999));
+  EXPECT_EQ(0, Enumerate("CIM_PackageVoltSensor"));
+  ASSERT_EQ(65'536u, DeliveredCount());
+  EXPECT_EQ("65535", KeyOf(Value(65'535, "Antecedent"), "DeviceID"));
 }
 
 }  // namespace

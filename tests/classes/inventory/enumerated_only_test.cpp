@@ -46,7 +46,7 @@ INSTANTIATE_TEST_SUITE_P(Classes, EnumeratedOnlyTest,
                                            EnumeratedClass{"CIM_ParallelController", 192},
                                            EnumeratedClass{"CIM_PointingDevice", 208},
                                            EnumeratedClass{"VORN_NetworkPort", 96}),
-                         [](const auto& enumerated) { return std::string(enumerated.param.name); });
+                         kClassName);
 
 }  // namespace
 }  // namespace tqcim::testing

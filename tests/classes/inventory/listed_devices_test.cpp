@@ -107,7 +107,7 @@ INSTANTIATE_TEST_SUITE_P(Classes, ListedDevicesTest,
                                            ListedClass{"CIM_SerialController", 193},
                                            ListedClass{"CIM_ParallelController", 192},
                                            ListedClass{"CIM_PointingDevice", 208}),
-                         [](const auto& listed) { return std::string(listed.param.name); });
+                         kClassName);
 
 }  // namespace
 }  // namespace tqcim::testing

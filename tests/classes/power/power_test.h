@@ -31,11 +31,6 @@ inline Puts Ends(const std::string& dependent, const std::string& antecedent) {
   return {{"Dependent", VT_BSTR, 0, dependent}, {"Antecedent", VT_BSTR, 0, antecedent}};
 }
 
-/// Names the instances of a test for several classes.
-inline constexpr auto kClassName = [](const auto& tested) {
-  return std::string(tested.param.name);
-};
-
 /// One property of several instances, in the order of their delivery.
 using Texts = std::vector<std::string>;
 
