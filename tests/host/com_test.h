@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <initializer_list>
 #include <memory>
 
@@ -42,52 +43,38 @@ inline Com<IWbemClassObject> Spawn(IWbemClassObject& definition) {
   return Com<IWbemClassObject>(instance);
 }
 
-/// VARIANTs as a provider makes them.
-inline OwnedVariant I4(LONG value) {
+/// VARIANTs as a provider makes them. All members of a VARIANT's union begin at one place.
+template <typename T>
+OwnedVariant VariantOf(VARTYPE type, T value) {
   OwnedVariant variant;
-  V_VT(&variant) = VT_I4;
-  V_I4(&variant) = value;
+  V_VT(&variant) = type;
+  std::memcpy(&V_I8(&variant), &value, sizeof value);
   return variant;
+}
+inline OwnedVariant I4(LONG value) {
+  return VariantOf(VT_I4, value);
 }
 inline OwnedVariant I2(SHORT value) {
-  OwnedVariant variant;
-  V_VT(&variant) = VT_I2;
-  V_I2(&variant) = value;
-  return variant;
+  return VariantOf(VT_I2, value);
 }
 inline OwnedVariant Ui1(BYTE value) {
-  OwnedVariant variant;
-  V_VT(&variant) = VT_UI1;
-  V_UI1(&variant) = value;
-  return variant;
+  return VariantOf(VT_UI1, value);
 }
 inline OwnedVariant Bool(VARIANT_BOOL value) {
-  OwnedVariant variant;
-  V_VT(&variant) = VT_BOOL;
-  V_BOOL(&variant) = value;
-  return variant;
+  return VariantOf(VT_BOOL, value);
+}
+inline OwnedVariant R4(float value) {
+  return VariantOf(VT_R4, value);
+}
+inline OwnedVariant R8(double value) {
+  return VariantOf(VT_R8, value);
 }
 inline OwnedVariant Text(const OLECHAR* value) {
-  OwnedVariant variant;
-  V_VT(&variant) = VT_BSTR;
-  V_BSTR(&variant) = SysAllocString(value);
-  return variant;
+  return VariantOf(VT_BSTR, SysAllocString(value));
 }
 inline OwnedVariant OfType(VARTYPE type) {
   OwnedVariant variant;
   V_VT(&variant) = type;
-  return variant;
-}
-inline OwnedVariant R4(float value) {
-  OwnedVariant variant;
-  V_VT(&variant) = VT_R4;
-  V_R4(&variant) = value;
-  return variant;
-}
-inline OwnedVariant R8(double value) {
-  OwnedVariant variant;
-  V_VT(&variant) = VT_R8;
-  V_R8(&variant) = value;
   return variant;
 }
 
