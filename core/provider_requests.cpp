@@ -84,6 +84,7 @@ HRESULT DeliverInstance(BSTR objectPath, IWbemObjectSink* sink) {
   }
 
   Bstr className;
+  Com<IWbemClassObject> classDefinition;
   Com<IWbemPathKeyList> keys;
   if (SUCCEEDED(path->SetText(WBEMPATH_CREATE_ACCEPT_ALL, ownedPath.get()))) {
     className = ClassNameOf(path.get());
@@ -91,7 +92,6 @@ HRESULT DeliverInstance(BSTR objectPath, IWbemObjectSink* sink) {
   }
   BaseClass* const handler = Lookup(BstrToNarrow(className.get()).get());
 
-  Com<IWbemClassObject> classDefinition;
   const HRESULT fetched = FetchClassDefinition(className.get(), classDefinition);
   if (fetched == S_OK) {
     if (handler) handler->GetInstance(classDefinition.get(), keys.get(), sink);

@@ -81,6 +81,23 @@ TEST_F(GetRequestTest, FreesThePathTextOfTheCaller) {
   EXPECT_EQ(before, CurrentLedger());
 }
 
+TEST_F(GetRequestTest, GivesTheKeyListBackBeforeTheClassDefinition) {
+  struct LastKeyList final : RefusingKeyList {
+    explicit LastKeyList(const FakeClass& itsClass)
+        : RefusingKeyList("a key list"), definition(itsClass) {}
+    ULONG STDMETHODCALLTYPE Release() override {
+      definitionsHeld = definition.References();
+      return RefusingKeyList::Release();
+    }
+    const FakeClass& definition;
+    LONG definitionsHeld = 0;
+  } last(definition);
+  parser.Understand("VORN_System=@", OLESTR("VORN_System"), &last);
+  EXPECT_EQ(0, GetByPath(OLESTR("VORN_System=@")));
+  EXPECT_EQ(1, last.definitionsHeld);
+  EXPECT_EQ(0, definition.References());
+}
+
 TEST_F(GetRequestTest, WithoutKeysTheClassGetsNoKeyList) {
   parser.Understand("VORN_System=@", OLESTR("VORN_System"), nullptr);
   EXPECT_EQ(0, GetByPath(OLESTR("VORN_System=@")));

@@ -65,7 +65,7 @@ FakePathParser::FakePathParser()
 FakePathParser::~FakePathParser() = default;
 
 void FakePathParser::Understand(const std::string& text, const OLECHAR* className,
-                                FakeKeyList* keys) {
+                                IWbemPathKeyList* keys) {
   texts_[text] = {className, keys};
 }
 

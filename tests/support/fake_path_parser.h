@@ -24,7 +24,7 @@ class FakePathParser {
 
   /// From now on the text names a class and these keys. A null class name is none; with null keys
   /// the key list cannot be had.
-  void Understand(const std::string& text, const OLECHAR* className, FakeKeyList* keys);
+  void Understand(const std::string& text, const OLECHAR* className, IWbemPathKeyList* keys);
   /// What making a path object returns.
   void SetCreateResult(HRESULT result) { createResult_ = result; }
   /// What asking for the class name returns: for its length, and for itself.
@@ -43,7 +43,7 @@ class FakePathParser {
   class Path;
   struct Parsed {
     const OLECHAR* className;
-    FakeKeyList* keys;
+    IWbemPathKeyList* keys;
   };
 
   FakeFactory factory_;
