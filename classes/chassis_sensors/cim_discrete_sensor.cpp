@@ -100,8 +100,6 @@ Variant NameOf(const DataObject& object) {
 /// Every state that can be read is acceptable too.
 void PutDiscreteSensorProperties(Instance& instance, const DataObject& object) {
   const Reading reading = ReadingOf(object);
-  const auto deviceNumber = static_cast<int32_t>(object.Oid());
-  const Ucs2Text deviceId(std::to_string(deviceNumber).c_str());
   Variant states = Variant::TextArray(reading.possible);
 
   instance.Put(property::kCurrentReading, Variant::Text(reading.current));
@@ -110,6 +108,8 @@ void PutDiscreteSensorProperties(Instance& instance, const DataObject& object) {
   instance.Put(property::kName, NameOf(object));
   instance.Put(property::kStatus, Variant::Text(StatusToText(object.Status())));
   PutDeviceNames(instance, OLESTR("CIM_DiscreteSensor"));
+  const auto deviceNumber = static_cast<int32_t>(object.Oid());
+  const Ucs2Text deviceId(std::to_string(deviceNumber).c_str());
   instance.Put(property::kDeviceId, Variant::Text(deviceId.text()));
 }
 
