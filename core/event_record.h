@@ -13,13 +13,13 @@ struct EventRecordDeleter {
 using EventRecord = Block<EventRecordDeleter>;
 
 /// Record `index` (from 0) of a log; nothing past its end.
-inline EventRecord ReadEventRecord(uint32_t logOid, uint32_t index) {
-  return EventRecord(XEPGetEELR(&logOid, index));
+inline EventRecord ReadEventRecord(const DataObject& log, uint32_t index) {
+  return EventRecord(XEPGetEELR(log.OidInPlace(), index));
 }
 
 /// The number of records of a log: the library's low 16 bits.
-inline uint16_t CountEventRecords(uint32_t logOid) {
-  return static_cast<uint16_t>(XEPGetEELRNum(&logOid));
+inline uint16_t CountEventRecords(const DataObject& log) {
+  return static_cast<uint16_t>(XEPGetEELRNum(log.OidInPlace()));
 }
 
 }  // namespace tqcim

@@ -77,6 +77,10 @@ class DataObject : public Block<GenericDeleter> {
   }
 
   uint32_t Oid() const { return (*this)[layout::header::kOid]; }
+  /// The same where it stands, for a library that takes it from there.
+  uint32_t* OidInPlace() const {
+    return reinterpret_cast<uint32_t*>(block_.get() + layout::header::kOid.offset);
+  }
   uint16_t Type() const { return (*this)[layout::header::kType]; }
   uint8_t Status() const { return (*this)[layout::header::kStatus]; }
 };

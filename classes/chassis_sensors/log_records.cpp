@@ -36,7 +36,7 @@ void PutRecordProperties(Instance& instance, const EventRecord& record, uint32_t
 
 HRESULT DeliverRecord(const DataObject& log, uint32_t number, HRESULT status,
                       IWbemClassObject* classDefinition, IWbemObjectSink* sink) {
-  const EventRecord record = ReadEventRecord(log.Oid(), number);
+  const EventRecord record = ReadEventRecord(log, number);
   if (!record) return status;
   Instance instance(classDefinition);
   if (!instance) return instance.SpawnStatus();

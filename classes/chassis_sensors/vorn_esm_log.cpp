@@ -13,9 +13,9 @@ HRESULT Vorn_esmlog::EnumerateInstances(IWbemClassObject* classDefinition, IWbem
   ReadTimeZone();
   const DataObject log = FindLog(layout::event_log::kEsmKind);
   if (!log) return S_OK;
-  const uint16_t count = CountEventRecords(log.Oid());
+  const uint16_t count = CountEventRecords(log);
   for (uint16_t i = 0; i < count; ++i) {
-    const EventRecord record = ReadEventRecord(log.Oid(), i);
+    const EventRecord record = ReadEventRecord(log, i);
     if (!record) break;
     Instance instance(classDefinition);
     if (!instance) return instance.SpawnStatus();

@@ -11,7 +11,7 @@ HRESULT VORN_PostLog::EnumerateInstances(IWbemClassObject* classDefinition, IWbe
   const DataObject log = FindLog(layout::event_log::kPostKind);
   HRESULT lastIndicate = S_OK;
   for (uint32_t i = 0; log && i < kPositionLimit && SUCCEEDED(lastIndicate); ++i) {
-    const EventRecord record = ReadEventRecord(log.Oid(), i);
+    const EventRecord record = ReadEventRecord(log, i);
     if (!record) break;
     Instance instance(classDefinition);
     if (!instance) break;

@@ -36,11 +36,15 @@ std::tm ReleaseTime(const char* text) {
   return time;
 }
 
-void PutBiosProperties(Instance& instance, const DataObject& object) {
-  const std::tm released = ReleaseTime(object[bios::kReleaseDate].get());
+void PutInstallDate(Instance& instance, const Utf8Text& releaseDate) {
+  const std::tm released = ReleaseTime(releaseDate.get());
   if (const SupportText date = FormatCimDateTime(&released)) {
     instance.PutDateTime(OLESTR("InstallDate"), date.get());
   }
+}
+
+void PutBiosProperties(Instance& instance, const DataObject& object) {
+  PutInstallDate(instance, object[bios::kReleaseDate]);
   instance.Put(OLESTR("Version"), Variant::Text(object[bios::kVersion]));
   // The version stands here until the fixed identifier below replaces it.
   instance.Put(OLESTR("SoftwareElementID"), Variant::Text(object[bios::kVersion]));

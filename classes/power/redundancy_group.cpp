@@ -40,10 +40,6 @@ HRESULT DeliverGroup(const RedundancyGroupClass& groupClass, const DataObject& o
 
 }  // namespace
 
-bool HasMembers(const DataObject& object, uint16_t memberType) {
-  return !ListChildren(object.Oid(), memberType).empty();
-}
-
 ObjectPath RedundancyGroupPath(const DataObject& object, uint32_t chassisPosition) {
   return FormatObjectPath(OLESTR("\\\\.\\root\\cimv2\\vorn:VORN_PSRedundancyGroup."
                                  "CreationClassName=\"VORN_PSRedundancyGroup\",Name=\"%s%d\""),
@@ -58,7 +54,8 @@ HRESULT EnumerateRedundancyGroups(const RedundancyGroupClass& groupClass,
     for (uint32_t position = 0; position < kPositionLimit; ++position) {
       const DataObject object = GetChildObjectOfOid2(static_cast<uint16_t>(position), group::kType);
       if (!object) break;
-      if (!HasMembers(object, groupClass.memberType)) continue;
+      const OidList members = ListChildren(object.Oid(), groupClass.memberType);
+      if (members.empty()) continue;
       Instance instance(classDefinition);
       if (!instance) return lastIndicate;
       lastIndicate = DeliverGroup(groupClass, object, instance, sink);

@@ -13,9 +13,6 @@ struct RedundancyGroupClass {
   const OLECHAR* className;
 };
 
-/// Whether a group has members of a type.
-bool HasMembers(const DataObject& object, uint16_t memberType);
-
 /// The reference to a group of power supplies: its name with the chassis's position behind it,
 /// which the group's own instance does not carry. Clients know both.
 ObjectPath RedundancyGroupPath(const DataObject& object, uint32_t chassisPosition);

@@ -18,7 +18,7 @@ HRESULT VORN_PackagePSRedundancy::EnumerateInstances(IWbemClassObject* classDefi
       const DataObject group =
           GetChildObjectOfOid2(static_cast<uint16_t>(position), layout::redundancy_group::kType);
       if (!group) break;
-      if (!HasMembers(group, layout::power_supply::kType)) continue;
+      if (ListChildren(group.Oid(), layout::power_supply::kType).empty()) continue;
       const ObjectPath groupPath = RedundancyGroupPath(group, c);
       Instance instance(classDefinition);
       if (!instance) return lastRelease;

@@ -20,14 +20,19 @@ void PutCustomProfile(Instance& instance, const DataObject& object, const OLECHA
 
 /// The custom profiles below a profile, in the order in which they are read.
 struct CustomProfiles {
-  explicit CustomProfiles(const DataObject& object)
-      : memory(GetChildObject(object.Oid(), custom::kMemoryType, 0)),
-        fans(GetChildObject(object.Oid(), custom::kFanType, 0)),
-        processor(GetChildObject(object.Oid(), custom::kProcessorType, 0)) {}
+  const DataObject& memory;
+  const DataObject& fans;
+  const DataObject& processor;
+};
 
-  DataObject memory;
-  DataObject fans;
-  DataObject processor;
+/// The first child of a type, and the list that names it.
+struct FirstChild {
+  FirstChild(uint32_t parentOid, uint16_t type)
+      : list(ListChildren(parentOid, type)),
+        object(list.empty() ? DataObject() : ReadObject(list[0])) {}
+
+  OidList list;
+  DataObject object;
 };
 
 void PutProfileProperties(Instance& instance, const DataObject& object,
@@ -43,15 +48,18 @@ void PutProfileProperties(Instance& instance, const DataObject& object,
 
 }  // namespace
 
-/// A success in every case.
+/// A success in every case. Nothing goes back to the library before the instance is delivered.
 HRESULT Vorn_PowerProfileData::EnumerateInstances(IWbemClassObject* classDefinition,
                                                   IWbemObjectSink* sink) {
-  const DataObject object = GetChildObjectOfOid2(0, profile::kType);
+  const FirstChild first(layout::system::kMainChassisOid, profile::kType);
+  const DataObject& object = first.object;
   if (!object) return S_OK;
   Instance instance(classDefinition);
   if (!instance) return S_OK;
-  const CustomProfiles profiles(object);
-  PutProfileProperties(instance, object, profiles);
+  const FirstChild memory(object.Oid(), custom::kMemoryType);
+  const FirstChild fans(object.Oid(), custom::kFanType);
+  const FirstChild processor(object.Oid(), custom::kProcessorType);
+  PutProfileProperties(instance, object, {memory.object, fans.object, processor.object});
   instance.Indicate(sink);
   instance.Release();
   return S_OK;
@@ -62,10 +70,13 @@ HRESULT Vorn_PowerProfileData::GetInstance(IWbemClassObject* classDefinition, IW
                                            IWbemObjectSink* sink) {
   const DataObject object = GetChildObjectOfOid2(0, profile::kType);
   if (!object) return kNotFound;
-  const CustomProfiles profiles(object);
+  const uint32_t oid = object.Oid();
+  const DataObject memory = GetChildObject(oid, custom::kMemoryType, 0);
+  const DataObject fans = GetChildObject(oid, custom::kFanType, 0);
+  const DataObject processor = GetChildObject(oid, custom::kProcessorType, 0);
   Instance instance(classDefinition);
   if (!instance) return instance.SpawnStatus();
-  PutProfileProperties(instance, object, profiles);
+  PutProfileProperties(instance, object, {memory, fans, processor});
   instance.Indicate(sink);
   return S_OK;
 }

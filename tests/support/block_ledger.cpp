@@ -117,6 +117,10 @@ const std::string* BlockLedger::TextOf(const void* dataObject, uint32_t offset) 
   return text == object->second.utf8Texts.end() ? nullptr : &text->second;
 }
 
+bool BlockLedger::IsOut(const void* block) const {
+  return BooksOfThread().blocks.contains(block);
+}
+
 std::string BlockLedger::Describe() const {
   size_t counts[std::size(kKindNames)] = {};
   for (const auto& [address, block] : BooksOfThread().blocks)

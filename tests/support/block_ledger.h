@@ -40,6 +40,9 @@ class BlockLedger {
   /// The bytes of a data object when this thread last gave it back; nothing before.
   std::vector<uint8_t> LastBytesOf(uint32_t oid) const;
 
+  /// Whether a block begins here that this thread has and has not given back.
+  bool IsOut(const void* block) const;
+
   /// Blocks that are out, on all threads.
   size_t Live() const { return live_; }
   /// This thread's: "2 data object, 1 text".

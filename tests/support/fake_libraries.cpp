@@ -76,12 +76,12 @@ int32_t SMUTF8StrToUCS2Str(OLECHAR* destination, uint32_t* sizeInBytes, const ch
 
 void* XEPGetEELR(uint32_t* logOid, uint32_t index) {
   const OutsideCall call(Call::kLibrary);
-  return call.Fails() ? nullptr : FakeStore::Installed().GetRecord(*logOid, index);
+  return call.Fails() ? nullptr : FakeStore::Installed().GetRecord(logOid, index);
 }
 
 uint32_t XEPGetEELRNum(uint32_t* logOid) {
   const OutsideCall call(Call::kLibrary);
-  return call.Fails() ? 0 : FakeStore::Installed().CountRecords(*logOid);
+  return call.Fails() ? 0 : FakeStore::Installed().CountRecords(logOid);
 }
 
 void XEPFreeGeneric(void* record) {

@@ -160,17 +160,23 @@ void FakeStore::NoteConversion(const char* narrow) {
   Note("convert ", narrow);
 }
 
-uint32_t FakeStore::CountRecords(uint32_t logOid) {
-  Note("records ", logOid);
-  const auto count = recordCounts_.find(logOid);
+void FakeStore::ExpectInDataObject(const uint32_t* oid) const {
+  EXPECT_TRUE(blocks_.IsOut(reinterpret_cast<const uint8_t*>(oid) - 4)) << "not in an object";
+}
+
+uint32_t FakeStore::CountRecords(const uint32_t* logOid) {
+  ExpectInDataObject(logOid);
+  Note("records ", *logOid);
+  const auto count = recordCounts_.find(*logOid);
   if (count != recordCounts_.end()) return count->second;
-  const auto log = records_.find(logOid);
+  const auto log = records_.find(*logOid);
   return log == records_.end() ? 0 : static_cast<uint32_t>(log->second.size());
 }
 
-void* FakeStore::GetRecord(uint32_t logOid, uint32_t index) {
-  Note("record ", logOid, "/", index);
-  const auto log = records_.find(logOid);
+void* FakeStore::GetRecord(const uint32_t* logOid, uint32_t index) {
+  ExpectInDataObject(logOid);
+  Note("record ", *logOid, "/", index);
+  const auto log = records_.find(*logOid);
   if (log == records_.end() || index >= log->second.size()) return nullptr;
   return blocks_.HandOut(BlockKind::kEventRecord, log->second[index].Build());
 }

@@ -89,8 +89,9 @@ class FakeStore {
   void* Allocate(uint32_t size);
   void FreeSupport(void* block);
   void NoteConversion(const char* narrow);
-  uint32_t CountRecords(uint32_t logOid);
-  void* GetRecord(uint32_t logOid, uint32_t index);
+  /// Both expect the OID where the log object has it.
+  uint32_t CountRecords(const uint32_t* logOid);
+  void* GetRecord(const uint32_t* logOid, uint32_t index);
   void FreeRecord(void* record);
   std::optional<uint16_t> GetIniValue(const std::string& fileName, const std::string& section,
                                       const std::string& key);
@@ -110,6 +111,8 @@ class FakeStore {
   /// Whether a call is one that has to fail.
   template <typename Key>
   bool Refuses(std::map<Key, Failures>& failures, const Key& key);
+  /// Expects the place of the OID in a data object that is out.
+  void ExpectInDataObject(const uint32_t* oid) const;
   /// Notes a call, told in parts that make its text.
   template <typename... Parts>
   void Note(const Parts&... parts);

@@ -40,6 +40,14 @@ TEST_F(CimBiosElementTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(kBios, Delivered(0));
 }
 
+TEST_F(CimBiosElementTest, TheReleaseDateGoesBackBehindTheTextThatIsMadeOfIt) {
+  store.RecordCalls();
+  Enumerate("CIM_BIOSElement");
+  EXPECT_EQ((std::vector<std::string>{"children 2/212", "object 40", "free", "text 40",
+                                      "allocate 26", "free support", "free", "free"}),
+            store.Calls());
+}
+
 TEST_F(CimBiosElementTest, PublishesTheFirstObjectOnly) {
   store.Add(41, 212).Ucs2(32, u"").Ucs2(36, u"9.9").Utf8(40, "01/01/2001");
   store.List(2, 212, {40, 41});

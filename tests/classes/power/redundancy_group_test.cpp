@@ -50,6 +50,13 @@ TEST_P(RedundancyGroupTest, MinNumberNeededHasNoSign) {
   EXPECT_EQ("65534", Value(0, "MinNumberNeeded"));
 }
 
+TEST_P(RedundancyGroupTest, AGroupIsHeldWithItsMembersWhileItIsDelivered) {
+  size_t live = 0;
+  sink.AtIndicate([&] { live = store.LiveBlocks(); });
+  EnumerateGroups();
+  EXPECT_EQ(3u, live) << "the list of chassis, the group and the list of its members";
+}
+
 TEST_P(RedundancyGroupTest, EnumeratesTheGroupsInStoreOrder) {
   EXPECT_EQ(0, EnumerateGroups());
   EXPECT_EQ((Texts{"Main", "Spare"}), Values("Name"));

@@ -68,6 +68,15 @@ TEST_F(VornPowerProfileDataTest, TheCustomProfilesAreReadBehindTheSpawnOrBeforeI
   EXPECT_EQ(expected, store.Calls());
 }
 
+TEST_F(VornPowerProfileDataTest, TheEnumerationHoldsTheListsToo) {
+  size_t live = 0;
+  sink.AtIndicate([&] { live = store.LiveBlocks(); });
+  EnumerateProfile();
+  EXPECT_EQ(8u, live) << "four objects and four lists";
+  GetProfile();
+  EXPECT_EQ(4u, live) << "four objects";
+}
+
 TEST_F(VornPowerProfileDataTest, IsGotByAnyKeys) {
   EXPECT_EQ(0, Get("VORN_PowerProfileData", NumberKey(OLESTR("chassisIndex"), 9)));
   FakeKeyList unreadable;
