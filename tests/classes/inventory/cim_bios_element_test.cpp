@@ -43,7 +43,7 @@ TEST_F(CimBiosElementTest, PutsItsPropertiesInOrder) {
 TEST_F(CimBiosElementTest, TheReleaseDateGoesBackBehindTheTextThatIsMadeOfIt) {
   store.RecordCalls();
   Enumerate("CIM_BIOSElement");
-  EXPECT_EQ((std::vector<std::string>{"children 2/212", "object 40", "free", "text 40",
+  EXPECT_EQ((std::vector<std::string>{"children 2/212", "object 40", "free", "text 314",
                                       "allocate 26", "free support", "free", "free"}),
             store.Calls());
 }
