@@ -10,7 +10,9 @@ Configuration LoadConfiguration(const std::filesystem::path& folder) {
   Configuration configuration{.source = std::nullopt, .iniFolder = folder / "ini"};
   const std::filesystem::path path = folder / "tqcim.json";
   std::error_code error;
-  if (std::filesystem::status(path, error).type() == std::filesystem::file_type::not_found) {
+  // A link whose file is gone was meant to configure something.
+  if (std::filesystem::symlink_status(path, error).type() ==
+      std::filesystem::file_type::not_found) {
     return configuration;
   }
   const JsonDocument document(ReadFile(path), TextOf(path));

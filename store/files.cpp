@@ -20,12 +20,11 @@ std::string LastError() {
   return std::generic_category().message(errno == 0 ? EIO : errno);
 }
 
-/// Removes the file at the end unless it has been moved away.
+/// A file in a folder. Removed at the end unless it has been moved away.
 class TemporaryFile {
  public:
-  explicit TemporaryFile(fs::path target) : path_(std::move(target)) {
-    path_ += ".new-" + std::to_string(std::random_device()());
-  }
+  explicit TemporaryFile(const fs::path& folder)
+      : path_(folder / (".tqcim-" + std::to_string(std::random_device()()))) {}
   ~TemporaryFile() {
     std::error_code ignored;
     fs::remove(path_, ignored);
@@ -35,6 +34,32 @@ class TemporaryFile {
  private:
   fs::path path_;
 };
+
+/// The error of a file of that name.
+StoreError Unwritten(const fs::path& path, const std::string& reason) {
+  return {TextOf(path), "cannot be written: " + reason};
+}
+
+/// `path` is the name for errors.
+void Write(const fs::path& target, std::string_view contents, const fs::path& path) {
+  errno = 0;
+  File file = OpenToWrite(target);
+  const bool written =
+      file && std::fwrite(contents.data(), 1, contents.size(), file.get()) == contents.size();
+  if (!written || std::fclose(file.release()) != 0) throw Unwritten(path, LastError());
+}
+
+/// Puts a new file where `path` leads to, with the permissions of the one there.
+void Replace(const fs::path& path, const fs::file_status& status, std::string_view contents) {
+  std::error_code error;
+  const fs::path target = fs::weakly_canonical(path, error);
+  if (error) throw Unwritten(path, error.message());
+  const TemporaryFile temporary(target.parent_path());
+  Write(temporary.Path(), contents, path);
+  if (fs::exists(status)) fs::permissions(temporary.Path(), status.permissions(), error);
+  if (!error) fs::rename(temporary.Path(), target, error);
+  if (error) throw Unwritten(path, error.message());
+}
 
 }  // namespace
 
@@ -76,16 +101,10 @@ std::string ReadFile(const fs::path& path) {
 }
 
 void WriteFile(const fs::path& path, std::string_view contents) {
-  const TemporaryFile temporary(path);
-  errno = 0;
-  File file = OpenToWrite(temporary.Path());
-  const bool written =
-      file && std::fwrite(contents.data(), 1, contents.size(), file.get()) == contents.size();
-  if (!written || std::fclose(file.release()) != 0)
-    throw StoreError(TextOf(path), "cannot be written: " + LastError());
-  std::error_code error;
-  fs::rename(temporary.Path(), path, error);
-  if (error) throw StoreError(TextOf(path), "cannot be written: " + error.message());
+  std::error_code unknown;
+  const fs::file_status status = fs::status(path, unknown);
+  if (fs::exists(status) && !fs::is_regular_file(status)) return Write(path, contents, path);
+  Replace(path, status, contents);
 }
 
 }  // namespace tqcim::store

@@ -19,7 +19,8 @@ std::filesystem::path PathOf(std::string_view utf8);
 std::string ReadFile(const std::filesystem::path& path);
 
 /// Writes the file as a whole or not at all: what stood there before stays until the new contents
-/// are complete.
+/// are complete. A link's file is written, with its permissions; what isn't a regular file (a
+/// device, a pipe) is written to as it stands.
 void WriteFile(const std::filesystem::path& path, std::string_view contents);
 
 }  // namespace tqcim::store

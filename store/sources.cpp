@@ -19,10 +19,10 @@ std::unique_ptr<Snapshot> LoadSource(std::string_view text, const std::filesyste
     return ParseStoreFile(sample.contents, std::string(sample.name));
   }
   if (text == "firmware") return LoadFirmware();
-  if (text.starts_with(kStoreFile)) {
+  if (text.size() > kStoreFile.size() && text.starts_with(kStoreFile)) {
     return LoadStoreFile(folder / PathOf(text.substr(kStoreFile.size())));
   }
-  if (text.starts_with(kFirmwareTable)) {
+  if (text.size() > kFirmwareTable.size() && text.starts_with(kFirmwareTable)) {
     return LoadFirmwareTable(folder / PathOf(text.substr(kFirmwareTable.size())));
   }
   throw StoreError("there is no source " + Quoted(text) +

@@ -26,7 +26,6 @@ CommandResult Run(const ExportCommand& command) {
   CommandResult result{.output = {}, .remark = SampleRemark(source)};
   const std::vector<std::string> classes = host->ClassNames();
   size_t instances = 0;
-  std::string failures;
   JsonWriter json;
   json.Object([&] {
     for (const std::string& name : classes) {
@@ -36,15 +35,12 @@ CommandResult Run(const ExportCommand& command) {
         instances += answer.instances.size();
         WriteInstances(json, answer.instances);
       } else {
-        failures += (failures.empty() ? "" : "; ") + FailureText(name, answer.outcome);
+        AddRemark(result, FailureText(name, answer.outcome));
+        result.status = static_cast<int>(ExitStatus::kProviderFailed);
         json.Value({});
       }
     }
   });
-  if (!failures.empty()) {
-    result.remark = failures;
-    result.status = static_cast<int>(ExitStatus::kProviderFailed);
-  }
   result.output = std::move(json).Document();
   if (!command.output.empty()) {
     FailingWith(ExitStatus::kOutputFailed,

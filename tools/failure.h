@@ -31,12 +31,17 @@ class Failure : public std::runtime_error {
 struct CommandResult {
   /// All of standard output.
   std::string output;
-  /// One sentence for standard error, or empty.
+  /// One line for standard error, or empty.
   std::string remark = {};
   /// The exit status.
   int status = static_cast<int>(ExitStatus::kFine);
   /// The exit status where the output can't be written.
   int status_when_unwritten = static_cast<int>(ExitStatus::kOutputFailed);
 };
+
+inline void AddRemark(CommandResult& result, const std::string& sentence) {
+  if (!result.remark.empty()) result.remark += "; ";
+  result.remark += sentence;
+}
 
 }  // namespace tqcim::tools

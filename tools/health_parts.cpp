@@ -106,8 +106,8 @@ class PartReader {
 
   void ReadGroup(const ClassDefinition& definition, const Instance& instance) {
     const std::string code = TextOf(instance, kRedundancyStatus);
-    // Each group is given once for every chassis.
-    if (code.empty() || !groups_.insert(instance.Path()).second) return;
+    // Each group is given once for every chassis. Groups of one name and state are told once, too.
+    if (code.empty() || !groups_.emplace(instance.Path(), code).second) return;
     const std::string status = PropertyWords(*definition.Find(kRedundancyStatus))
                                    .Meaning(instance.Find(kRedundancyStatus)->value);
     Count(JudgeRedundancy(code),
@@ -142,6 +142,7 @@ class PartReader {
       if (severity.value_or(Verdict::kOk) == Verdict::kOk || IsExplained(roll_up, *severity)) {
         continue;
       }
+      ++health_.checked;
       Add(*severity,
           {.instance = instance, .property = std::string(roll_up.property), .status = status});
     }
@@ -174,7 +175,8 @@ class PartReader {
   std::map<std::string, std::vector<Instance>> wholes_;
   /// Class, name and status of the discrete probes whose own classes haven't come yet.
   std::multiset<std::tuple<std::string, std::string, std::string>> discrete_probes_;
-  std::set<std::string> groups_;
+  /// Path and state.
+  std::set<std::pair<std::string, std::string>> groups_;
   /// Whether anything has a status that says something.
   bool told_ = false;
 };

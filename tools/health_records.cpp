@@ -41,7 +41,8 @@ void Keep(std::vector<LogEntry>& records, const LogEntry& entry, size_t limit) {
 void Take(const LogEntry& entry, Health& health) {
   bool named = false;
   for (Finding& finding : health.findings) {
-    if (!Names(entry.text, finding.name)) continue;
+    // The keys that stand for a missing name are numbers, which records have for other reasons.
+    if (!Names(entry.text, TextOf(finding.instance, "Name"))) continue;
     Keep(finding.records, entry, kRecordsOfFinding);
     named = true;
   }
@@ -66,13 +67,6 @@ void ReadRecords(host::ManagementHost& host, Health& health) {
       ++health.log_records;
     });
   }
-}
-
-Health ReadHealth(host::ManagementHost& host) {
-  Health health;
-  ReadParts(host, health);
-  ReadRecords(host, health);
-  return health;
 }
 
 }  // namespace tqcim::tools

@@ -58,10 +58,10 @@ std::string RecordLine(const LogEntry& record, const Layout& layout) {
 std::string FindingLine(const Finding& finding, const Layout& layout) {
   const bool roll_up = finding.property != "Status" && finding.property != "RedundancyStatus";
   const std::string status = Printable(finding.status);
-  std::string line =
-      Wrapped(std::string(finding.instance.definition->name) + " " + Printable(finding.name) +
-                  ": " + (roll_up ? finding.property + " " : "") + status,
-              4, layout.width);
+  std::string whole(finding.instance.definition->name);
+  if (!finding.name.empty()) whole += " " + Printable(finding.name);
+  whole += ": " + (roll_up ? finding.property + " " : "") + status;
+  std::string line = Wrapped(whole, 4, layout.width);
   if (layout.colour && line.ends_with(status)) {
     const char* colour_of = finding.severity == Verdict::kCritical ? "Error" : "Stressed";
     line.replace(line.size() - status.size(), status.size(), Coloured(status, colour_of));

@@ -36,7 +36,9 @@ Examples:
 
 constexpr const char* kClassesFooter =
     R"(The worst status is that of the instances, in the order Other, Unknown, OK,
-Stressed, Error, NonRecover; a class whose instances have none shows "-".
+Stressed, Error, NonRecover; a class whose instances have none shows "-". A
+class that the provider failed to give is left out (told on standard error, exit
+status 4).
 
 Examples:
   tqcim classes
@@ -45,8 +47,9 @@ Examples:
 
 constexpr const char* kListFooter =
     R"(A table shows the columns that fit the terminal, keys and Status first, and
-names those that don't. A single instance is shown in full. "-" stands for a
-value that the instance doesn't have: null in JSON, an empty field in CSV.
+names those that don't. A single instance is shown in full. In a table "-"
+stands for a value that the instance doesn't have: null in JSON, an empty field
+in CSV.
 
 Examples:
   tqcim list VORN_Chassis
@@ -55,7 +58,8 @@ Examples:
 
 constexpr const char* kGetFooter =
     R"(A path is CLASS.KEY="VALUE",KEY="VALUE",... and may have \\SERVER\NAMESPACE:
-in front. Quote it for the shell.
+in front. Quote it for the shell. Some classes can only be listed, as their
+pages in the documentation say.
 
 Examples:
   tqcim get 'CIM_Processor.DeviceID="0"'
@@ -112,13 +116,19 @@ Examples:
 constexpr const char* kCheckFooter = R"(Examples:
   tqcim store check server.json)";
 
+/// A file whose name is empty is a variable of the shell that was never set.
+CLI::Validator NamesAFile() {
+  return {[](std::string& name) { return name.empty() ? "names no file" : ""; }, ""};
+}
+
 /// An option that names a source's file.
 CLI::Option* AddSourceFile(CLI::App& command, SourceOption& source, SourceOption::Kind kind,
                            const char* name, const char* type, const char* description) {
   const auto take = [&source, kind](const std::string& file) { source = {kind, file}; };
   return command.add_option_function<std::string>(name, take, description)
       ->type_name(type)
-      ->option_text(type);
+      ->option_text(type)
+      ->check(NamesAFile());
 }
 
 /// The options of the two sources that are firmware tables.
@@ -129,7 +139,7 @@ std::array<CLI::Option*, 2> AddTableOptions(CLI::App& command, SourceOption& sou
   CLI::Option* firmware = command.add_flag_callback(
       "--firmware", [&source] { source.kind = SourceOption::Kind::kFirmware; },
       "this machine's firmware table");
-  firmware->option_text(" ");
+  firmware->option_text(" ")->disable_flag_override();
   dump->excludes(firmware);
   return {dump, firmware};
 }
@@ -160,7 +170,8 @@ void AddFormatOption(CLI::App& command, Format& format, bool with_csv = true) {
 CLI::Option* AddOutputOption(CLI::App& command, std::string& output, const char* description) {
   return command.add_option("-o,--output", output, description)
       ->type_name("FILE")
-      ->option_text("FILE");
+      ->option_text("FILE")
+      ->check(NamesAFile());
 }
 
 void AddRegisteredOption(CLI::App& app) {
@@ -171,7 +182,19 @@ void AddRegisteredOption(CLI::App& app) {
     UseRegisteredProvider();
   };
   app.add_flag_callback("--registered", take, "the provider registered with COM (on Windows)")
-      ->option_text(" ");
+      ->option_text(" ")
+      ->disable_flag_override();
+}
+
+/// Whether the arguments have "--format json", however far they could be read.
+bool AskForJson(std::span<const std::string> arguments) {
+  for (size_t i = 0; i < arguments.size(); ++i) {
+    if (arguments[i] == "--format=json") return true;
+    if (arguments[i] == "--format" && i + 1 < arguments.size() && arguments[i + 1] == "json") {
+      return true;
+    }
+  }
+  return false;
 }
 
 /// A command whose options are made when it is the one that is given.
@@ -215,6 +238,7 @@ class CommandLine {
     } catch (const CLI::ParseError& error) {
       if (app_.got_subcommand("health")) {
         health_.mistake = Sentence(error);
+        if (AskForJson(arguments)) health_.format = Format::kJson;
         return health_;
       }
       throw Failure(ExitStatus::kUsage, Sentence(error));
@@ -240,7 +264,8 @@ class CommandLine {
           ->required();
       AddSourceOptions(command, list_.source);
       AddFormatOption(command, list_.format);
-      command.add_flag("--full", list_.full, "no table: every property on a line");
+      command.add_flag("--full", list_.full, "no table: on a line every property there is")
+          ->disable_flag_override();
       Choose(command, list_);
     });
     Add(app_, "get", "The instance that an object path names", kGetFooter,

@@ -74,7 +74,7 @@ std::vector<host::Instance> TakeInstances(Answer answer, std::string_view class_
 std::optional<std::string> WorstStatus(const std::vector<host::Instance>& instances) {
   std::optional<std::string> worst;
   for (const host::Instance& instance : instances) {
-    const host::Property* property = instance.Find("Status");
+    const host::Property* property = instance.Find(kStatus);
     const auto* status = property ? std::get_if<std::string>(&property->value) : nullptr;
     if (status && (!worst || StatusRank(*worst) < StatusRank(*status))) worst = *status;
   }
@@ -122,7 +122,7 @@ CommandResult Run(const ClassesCommand& command, const Layout& layout) {
       summaries.push_back({name, answer.instances.size(), WorstStatus(answer.instances)});
     } else {
       // The other classes are shown all the same.
-      result.remark = FailureText(name, answer.outcome);
+      AddRemark(result, FailureText(name, answer.outcome));
       result.status = static_cast<int>(ExitStatus::kProviderFailed);
     }
   }

@@ -5,8 +5,7 @@
 
 #include "store/configuration.h"
 #include "store/store_control.h"
-#include "store/store_error.h"
-#include "tools/failure.h"
+#include "tools/store_failure.h"
 #include "tools/text.h"
 
 namespace tqcim::tools {
@@ -18,11 +17,7 @@ constexpr std::string_view kFirmware = "firmware";
 constexpr std::string_view kSample = "sample";
 
 std::string ChosenByLibrary() {
-  try {
-    return store::ConfiguredSource().text;
-  } catch (const store::StoreError& error) {
-    throw Failure(ExitStatus::kBadInput, error.what());
-  }
+  return FailingWith(ExitStatus::kBadInput, [] { return store::ConfiguredSource().text; });
 }
 
 /// The source as the library names it.

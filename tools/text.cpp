@@ -24,6 +24,17 @@ std::string NumberText(auto number) {
   return std::string(digits.data(), end);
 }
 
+bool IsControl(OLECHAR unit) {
+  return unit < 0x20 || (unit >= 0x7F && unit < 0xA0);
+}
+
+/// Separators of lines, and what changes the direction of the text (Unicode 15.0, tables 9-2 and
+/// 23-2): a terminal may show what follows elsewhere.
+bool MovesText(OLECHAR unit) {
+  return unit == 0x061C || unit == 0x200E || unit == 0x200F || (unit >= 0x2028 && unit <= 0x202E) ||
+         (unit >= 0x2066 && unit <= 0x2069);
+}
+
 bool Continues(char byte) {
   return (static_cast<uint8_t>(byte) & 0xC0) == 0x80;
 }
@@ -43,20 +54,22 @@ std::string PlainText(const host::Value& value) {
 }
 
 std::string Printable(std::string_view text) {
-  constexpr const char* kHex = "0123456789ABCDEF";
-  const std::string valid = host::ToUtf8(host::ToWide(text));
-  std::string printable;
-  for (size_t i = 0; i < valid.size(); ++i) {
-    // The controls beyond ASCII are U+0080 to U+009F.
-    const bool wide_control = valid[i] == '\xC2' && static_cast<uint8_t>(valid[i + 1]) < 0xA0;
-    const auto byte = static_cast<uint8_t>(valid[wide_control ? ++i : i]);
-    if (wide_control || byte < 0x20 || byte == 0x7F) {
-      printable += {'\\', 'x', kHex[byte >> 4], kHex[byte & 0xF]};
+  constexpr std::string_view kHex = "0123456789ABCDEF";
+  host::WideText printable;
+  const auto escape = [&](char kind, OLECHAR unit, int digits) {
+    printable += {OLECHAR{'\\'}, static_cast<OLECHAR>(kind)};
+    while (digits-- > 0) printable += static_cast<OLECHAR>(kHex[unit >> 4 * digits & 0xF]);
+  };
+  for (const OLECHAR unit : host::ToWide(text)) {
+    if (IsControl(unit)) {
+      escape('x', unit, 2);
+    } else if (MovesText(unit)) {
+      escape('u', unit, 4);
     } else {
-      printable += valid[i];
+      printable += unit;
     }
   }
-  return printable;
+  return host::ToUtf8(printable);
 }
 
 size_t ColumnCount(std::string_view text) {

@@ -29,7 +29,7 @@ std::string PlainText(const host::Scalar& scalar);
 std::string PlainText(const host::Value& value);
 
 /// The text on one line without anything that a terminal obeys: control characters become \xNN,
-/// malformed UTF-8 becomes U+FFFD.
+/// those that change the direction of text \uNNNN, malformed UTF-8 becomes U+FFFD.
 std::string Printable(std::string_view text);
 
 /// How many columns a printable text takes, one for each character.

@@ -189,6 +189,16 @@ INSTANTIATE_TEST_SUITE_P(
                     {"list", "VORN_System", "--format", "xml"},
                     "tqcim: --format: there is no format xml, only table, json and csv (see tqcim "
                     "list --help)\n"},
+        CommandLine{"EmptySource",
+                    {"classes", "--store", ""},
+                    "tqcim: --store: names no file (see tqcim classes --help)\n"},
+        CommandLine{"EmptyOutput",
+                    {"export", "-o", ""},
+                    "tqcim: --output: names no file (see tqcim export --help)\n"},
+        CommandLine{"FlagWithAValue",
+                    {"classes", "--firmware=false"},
+                    "tqcim: firmware was given a disallowed flag override (see tqcim classes "
+                    "--help)\n"},
         CommandLine{"TwoSources",
                     {"classes", "--store", "a.json", "--firmware"},
                     "tqcim: --store excludes --firmware (see tqcim classes --help)\n"},

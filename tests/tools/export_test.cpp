@@ -97,5 +97,19 @@ TEST_F(Export, ShowsAClassThatFailedAsNullAndTellsIt) {
   EXPECT_EQ(exported.at("CIM_Fan"), Json::array());
 }
 
+TEST_F(Export, OfTheSampleWithAFailedClassTellsBoth) {
+  InstallWithoutProvider();
+  InstallProvider(FAILING_PROVIDER_NAME);
+  for (const auto& arguments :
+       {std::vector<std::string>{"export"}, {"classes", "--format", "json"}}) {
+    const ToolRun run = RunInstalled(arguments);
+    EXPECT_EQ(run.status, 4);
+    EXPECT_EQ(run.error,
+              "tqcim: this is the embedded sample, an invented server; --store, --firmware-table "
+              "and --firmware choose another source; CIM_FRU: the provider answered "
+              "WBEM_E_FAILED (0x80041001)\n");
+  }
+}
+
 }  // namespace
 }  // namespace tqcim::testing

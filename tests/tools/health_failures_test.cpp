@@ -44,7 +44,10 @@ TEST_F(HealthFailures, OfASourceAreTheFirstLineOfTheOutput) {
 TEST_F(HealthFailures, InJsonAreOnStandardErrorAlone) {
   for (const auto& arguments :
        {std::vector<std::string>{"health", "--format", "json", "--store", "absent.json"},
-        {"health", "--format", "json", "--nope"}}) {
+        {"health", "--format", "json", "--nope"},
+        {"health", "--format=json", "--store"},
+        {"health", "--store", "--format", "json"},
+        {"health", "--format", "json", "--format", "json"}}) {
     const ToolRun run = Run(arguments);
     EXPECT_EQ(run.status, kUnknown);
     EXPECT_EQ(run.output, "");

@@ -126,7 +126,7 @@ TEST_F(Health, CountsTheSystemsOwnStatusWhereNoPartShowsTheFault) {
   EXPECT_EQ(system.at("findings")[0].at("class"), "VORN_System");
   EXPECT_EQ(system.at("findings")[0].at("status"), "Error");
   EXPECT_EQ(Tell(1, Machine("ok", "nonCritical", {})),
-            "WARNING: system status OK; 1 degraded of 0 checked\n"
+            "WARNING: system status OK; 1 degraded of 1 checked\n"
             "\n"
             "VORN_Chassis Box: Stressed\n"
             "\n"
@@ -149,7 +149,7 @@ TEST_F(Health, TellsARollUpOfTheChassisThatNoPartExplains) {
                       {R"({"oid": 5, "type": "processor", "status": "critical", "parents": [2]})",
                        R"({"oid": 6, "type": "eventLog", "status": "nonCritical", "parents": [2],
                            "fields": {"kind": 1}})"})),
-      "CRITICAL: system status OK; 1 critical, 1 degraded of 0 checked\n"
+      "CRITICAL: system status OK; 1 critical, 1 degraded of 2 checked\n"
       "\n"
       "VORN_Chassis Box: ProcStatus Error\n"
       "\n"
@@ -258,6 +258,45 @@ TEST_F(Health, TellsWhatASupplyReportsAndTheStateOfItsGroupOnce) {
             "0 OK; log records: 0\n");
 }
 
+TEST_F(Health, TellsEveryStateOfGroupsThatHaveOneName) {
+  const auto group = [](int oid, int state) {
+    const std::string id = std::to_string(oid);
+    return R"({"oid": )" + id + R"(, "type": "redundancyGroup", "status": "ok", "parents": [2],
+              "fields": {"name": "Supplies", "state": )" +
+           std::to_string(state) + R"(}}, {"oid": 1)" + id +
+           R"(, "type": "powerSupply", "status": "ok", "parents": [)" + id + "]}";
+  };
+  EXPECT_EQ(Tell(1, Machine("ok", "ok", {group(20, 4), group(21, 6), group(22, 6)})),
+            "WARNING: system status OK; 1 degraded of 2 checked\n"
+            "\n"
+            "VORN_PSRedundancyGroup Supplies: Redundancy Lost\n"
+            "\n"
+            "1 OK; log records: 0\n");
+}
+
+TEST_F(Health, APartWithoutANameHasNoRecordsByItsNumber) {
+  EXPECT_EQ(Tell(1, Machine("ok", "ok",
+                            {R"({"oid": 5, "type": "memoryDevice", "status": "nonCritical",
+                                 "parents": [2]})",
+                             Log(6, 1, {Record(1700000000, "critical", "Drive 0 failed")})})),
+            "WARNING: system status OK; 1 degraded of 1 checked\n"
+            "\n"
+            "CIM_PhysicalMemory 0: Stressed\n"
+            "\n"
+            "The newest log records of other faults:\n"
+            "  TIME Error: Drive 0 failed\n"
+            "\n"
+            "0 OK; log records: 1\n");
+}
+
+TEST_F(Health, AChassisWithoutANameIsToldByItsClass) {
+  std::string file = Machine("ok", "nonCritical", {});
+  std::string text = ContentsOf(file);
+  text.replace(text.find("Box"), 3, "");
+  EXPECT_NE(Tell(1, Write("nameless.json", text)).find("\nVORN_Chassis: Stressed\n"),
+            std::string::npos);
+}
+
 TEST_F(Health, ShowsTheTwoNewestRecordsThatNameAFindingAndTheNewestOtherFaults) {
   const std::string file = Machine(
       "ok", "ok",
@@ -326,9 +365,11 @@ TEST_F(Health, OfTheSampleFitsOneScreen) {
 TEST_F(Health, NeverSendsATerminalWhatItObeys) {
   const std::string told = Tell(1, Machine("ok", "ok",
                                            {Memory(5, R"(A\u001B[2J)", "nonCritical"),
+                                            Memory(7, R"(B\u202EC)", "nonCritical"),
                                             Log(6, 1, {Record(0, "critical", R"(B\u001B[2J)")})}));
   EXPECT_EQ(told.find('\x1B'), std::string::npos);
   EXPECT_NE(told.find(R"(CIM_PhysicalMemory A\x1B[2J: Stressed)"), std::string::npos) << told;
+  EXPECT_NE(told.find(R"(CIM_PhysicalMemory B\u202EC: Stressed)"), std::string::npos) << told;
   EXPECT_NE(told.find(R"(Error: B\x1B[2J)"), std::string::npos) << told;
 }
 

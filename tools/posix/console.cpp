@@ -13,8 +13,10 @@
 namespace tqcim::tools {
 namespace {
 
-/// 0, or the error number.
+/// 0, or the error number: a reader that went away is told like any other failure, not by the
+/// signal.
 int WriteAll(int descriptor, std::string_view text) {
+  std::signal(SIGPIPE, SIG_IGN);
   while (!text.empty()) {
     const ssize_t written = write(descriptor, text.data(), text.size());
     if (written >= 0) {
@@ -49,8 +51,6 @@ bool OutputTakesColour() {
 }
 
 void WriteOutput(std::string_view text) {
-  // A reader that went away is told like any other failure, not by the signal.
-  std::signal(SIGPIPE, SIG_IGN);
   int error = WriteAll(STDOUT_FILENO, text);
   // Some file systems report a full disk no earlier than here.
   if (close(STDOUT_FILENO) != 0 && error == 0 && !text.empty()) error = errno;

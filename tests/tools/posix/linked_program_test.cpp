@@ -24,5 +24,17 @@ TEST_F(LinkedProgram, FindsItsModulesAndItsConfigurationWhereItLies) {
       << ContentsOf(output);
 }
 
+using LinkedConfiguration = InstallationTest;
+
+TEST_F(LinkedConfiguration, WhoseFileIsGoneIsNoneThatLetsTheSampleAnswer) {
+  InstallWithoutProvider();
+  InstallProvider(TQCIM_PROVIDER_NAME);
+  const std::filesystem::path link = Folder().Path() / "tqcim.json";
+  std::filesystem::create_symlink("gone.json", link);
+  const ToolRun run = RunInstalled({"health"});
+  EXPECT_EQ(run.status, 3);
+  EXPECT_EQ(run.output, "UNKNOWN: " + link.string() + ": no such file\n");
+}
+
 }  // namespace
 }  // namespace tqcim::testing

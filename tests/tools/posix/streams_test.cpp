@@ -26,12 +26,18 @@ class Streams : public ToolTest {
 
   /// The program's exit status when its standard output is an open file of that kind. What it says
   /// on standard error is in the file "error".
-  int RunInto(int output, std::vector<std::string> arguments) const {
+  int RunInto(int output, const std::vector<std::string>& arguments) const {
+    const int error = open((Folder().Path() / "error").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+    const int status = RunInto(output, error, arguments);
+    close(error);
+    return status;
+  }
+  /// The same with a standard error of that kind.
+  static int RunInto(int output, int error, std::vector<std::string> arguments) {
     arguments.insert(arguments.begin(), Program().string());
     std::vector<char*> values;
     for (std::string& argument : arguments) values.push_back(argument.data());
     values.push_back(nullptr);
-    const int error = open((Folder().Path() / "error").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
     const pid_t child = fork();
     if (child == 0) {
       dup2(output, STDOUT_FILENO);
@@ -40,7 +46,6 @@ class Streams : public ToolTest {
       execv(values.front(), values.data());
       _exit(127);
     }
-    close(error);
     int status = 0;
     waitpid(child, &status, 0);
     return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
@@ -98,6 +103,21 @@ TEST_F(Streams, AReaderThatWentAwayIsAnOutputFailure) {
   close(ends[0]);
   EXPECT_EQ(RunInto(ends[1], {"classes"}), 5);
   EXPECT_EQ(Error(), "tqcim: standard output: can't be written: Broken pipe\n");
+  close(ends[1]);
+}
+
+TEST_F(Streams, NobodyWhoReadsStandardErrorChangesNothingElse) {
+  std::array<int, 2> ends{};
+  ASSERT_EQ(pipe(ends.data()), 0);
+  close(ends[0]);
+  SetEnvironment("TQCIM_SOURCE", "sample");
+  const std::string file = Write("output", "");
+  const int output = open(file.c_str(), O_WRONLY);
+  EXPECT_EQ(RunInto(output, ends[1], {"list", "VORN_System", "--format", "csv"}), 0);
+  EXPECT_NE(ContentsOf(file), "");
+  EXPECT_EQ(RunInto(output, ends[1], {"list", "Nope"}), 1);
+  EXPECT_EQ(RunInto(output, ends[1], {"health", "--format", "json", "--store", "absent"}), 3);
+  close(output);
   close(ends[1]);
 }
 
