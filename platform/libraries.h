@@ -37,8 +37,9 @@ void* SMAllocMem(uint32_t size);
 void SMFreeMem(void* block);
 
 /// Reads one value of an INI file, which the library finds by its bare name. `value` receives at
-/// most `*size` bytes; the default stands where the file or the key is missing.
-/// Value type 4 is a 16-bit number. Returns 0 on success.
+/// most `*size` bytes; the default stands where the file or the key is missing, where the file
+/// can't be read, and where the value is none of its type. Value type 4 is a 16-bit number. Returns
+/// 0 on success.
 int32_t SMReadINIFileValue(const char* section, const char* key, uint32_t valueType, void* value,
                            uint32_t* size, const void* defaultValue, uint32_t defaultSize,
                            const char* fileName, uint32_t flag);

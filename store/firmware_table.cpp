@@ -27,11 +27,6 @@ std::unique_ptr<Snapshot> SnapshotOfTable(smbios::Bytes available,
                                           SnapshotBuilder builder) {
   if (available.size() > entryPoint.tableLength) {
     available = available.first(entryPoint.tableLength);
-  } else if (entryPoint.lengthIsExact && available.size() < entryPoint.tableLength) {
-    throw StoreError(smbios::PlaceAt(file, offset + available.size()),
-                     "the table is cut off: its entry point gives it " +
-                         std::to_string(entryPoint.tableLength) + " bytes, the file has " +
-                         std::to_string(available.size()));
   }
   return smbios::SnapshotOf(available, entryPoint, file, offset, std::move(builder));
 }
@@ -59,10 +54,12 @@ std::unique_ptr<Snapshot> ParseFirmwareDump(std::string_view contents, const std
                                             SnapshotBuilder builder) {
   const smbios::Bytes bytes = BytesOf(contents);
   const smbios::EntryPoint entryPoint = smbios::ReadEntryPoint(bytes, file);
-  if (entryPoint.tableAddress >= bytes.size()) {
-    throw StoreError(smbios::PlaceAt(file, 0), "the entry point gives the table an address, " +
-                                                   std::to_string(entryPoint.tableAddress) +
-                                                   ", past the end of the file");
+  const bool isInside = entryPoint.tableAddress < entryPoint.length;
+  if (isInside || entryPoint.tableAddress >= bytes.size()) {
+    throw StoreError(smbios::PlaceAt(file, 0),
+                     "the entry point gives the table an address, " +
+                         std::to_string(entryPoint.tableAddress) +
+                         (isInside ? ", inside itself" : ", past the end of the file"));
   }
   const auto offset = static_cast<size_t>(entryPoint.tableAddress);
   return SnapshotOfTable(bytes.subspan(offset), entryPoint, file, offset, std::move(builder));

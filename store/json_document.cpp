@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "store/store_error.h"
+#include "store/text.h"
 
 namespace tqcim::store {
 namespace {
@@ -15,6 +16,8 @@ using nlohmann::json;
 
 constexpr size_t kDeepest = 8;
 constexpr size_t kMostNames = 256;
+/// Twenty thousand memory modules have 380,000. Each takes a hundred bytes, however short.
+constexpr size_t kMostValues = 1'000'000;
 
 /// Reads the contents and keeps the line of the character read last.
 class LineCountingIterator {
@@ -117,6 +120,7 @@ class TreeBuilder : public nlohmann::json_sax<json> {
     return true;
   }
   JsonValue& Place(JsonValue value) {
+    if (++values_ > kMostValues) Fail("more values than any store has");
     value.line = line_;
     JsonValue& place = open_.empty() ? root_
                        : open_.back()->kind == JsonValue::Kind::kArray
@@ -128,6 +132,7 @@ class TreeBuilder : public nlohmann::json_sax<json> {
   const std::string& file_;
   const size_t& line_;
   JsonValue& root_;
+  size_t values_ = 0;
   /// The containers around the next value. A container doesn't move while it is open: its parent
   /// grows only after it.
   std::vector<JsonValue*> open_;
@@ -147,13 +152,6 @@ const char* NameOf(JsonValue::Kind kind) {
 }
 
 }  // namespace
-
-std::string Quoted(std::string_view text) {
-  constexpr size_t kLongest = 60;
-  const bool cut = text.size() > kLongest;
-  return json(std::string(text.substr(0, kLongest)) + (cut ? "..." : ""))
-      .dump(-1, ' ', true, json::error_handler_t::replace);
-}
 
 const JsonValue* JsonValue::Member(std::string_view name) const {
   const auto found = std::find_if(members.begin(), members.end(),

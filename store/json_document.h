@@ -19,10 +19,6 @@ struct Named {
 };
 using JsonMember = Named<JsonValue>;
 
-/// The text in quotes, for error sentences: shortened, and in printable ASCII on one line whatever
-/// it contains.
-std::string Quoted(std::string_view text);
-
 /// One value of a document. Of the content members only the one of its kind is filled.
 struct JsonValue {
   enum class Kind { kNull, kBoolean, kUnsigned, kNegative, kFraction, kText, kArray, kObject };
@@ -43,7 +39,8 @@ struct JsonValue {
 class JsonDocument {
  public:
   /// `file` is the name that errors carry. Refused beside malformed text: a name that stands twice
-  /// in an object, values nested deeper than any of our formats, objects of more names than any.
+  /// in an object, values nested deeper than any of our formats, objects of more names than any,
+  /// more values than any.
   JsonDocument(std::string_view contents, std::string file);
 
   const JsonValue& Root() const { return root_; }

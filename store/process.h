@@ -12,8 +12,8 @@ namespace tqcim::store {
 /// The folder of the library (or program) that this code is part of.
 std::filesystem::path LibraryFolder();
 
-/// Whether a file of that ASCII name stands in the folder. Many times faster than to ask for a path
-/// that is put together first.
+/// Whether a file of that ASCII name stands in the folder. Many times faster than
+/// `std::filesystem::exists(folder / name)`.
 bool HasFile(const std::filesystem::path& folder, const char* name);
 
 struct CloseFile {

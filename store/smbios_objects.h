@@ -1,7 +1,8 @@
-/// From each structure of an SMBIOS table to its objects: one source for each subject, called in
-/// the order of the table (smbios_source.cpp). `position` counts from 1 among the structures of one
-/// type. Every field is gated on its structure's own length, and what isn't told, or is told in
-/// words that the store has no code for, stays at the layout's "none".
+/// From each structure of an SMBIOS table to its objects: one source for each subject. Chassis and
+/// BIOS come first, the others in the order of the table (smbios_source.cpp). `position` counts
+/// from 1 among the structures of one type. Every field is gated on its structure's own length, and
+/// what isn't told, or is told in words that the store has no code for, stays at the layout's
+/// "none".
 #pragma once
 
 #include <cstdint>

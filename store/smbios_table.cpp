@@ -35,18 +35,19 @@ uint64_t IntegerIn(Bytes bytes, size_t offset, size_t width) {
   return value;
 }
 
-/// DSP0134 5.2.1. Some firmware gives the length as 0x1E, an error of version 2.1.
+/// DSP0134 5.2.1. Some firmware gives the length as 0x1E, an error of version 2.1. A system that
+/// goes by it shows no last byte, and without that there is no intermediate sum.
 EntryPoint ReadEntryPoint32(Bytes bytes, const std::string& file) {
-  const Bytes intermediate = bytes.subspan(kIntermediateOffset, kIntermediateLength);
+  const Bytes rest = bytes.subspan(kIntermediateOffset);
+  const Bytes intermediate = rest.first(std::min(rest.size(), kIntermediateLength));
   if (!Begins(intermediate, kIntermediateAnchor)) {
     throw StoreError(PlaceAt(file, kIntermediateOffset), "the intermediate anchor is missing");
   }
-  if (!SumIsZero(intermediate)) {
+  if (intermediate.size() == kIntermediateLength && !SumIsZero(intermediate)) {
     throw StoreError(PlaceAt(file, kIntermediateOffset), "the intermediate checksum is wrong");
   }
   return {.tableAddress = IntegerIn(bytes, 0x18, 4),
           .tableLength = static_cast<uint32_t>(IntegerIn(bytes, 0x16, 2)),
-          .lengthIsExact = true,
           .structureCount = static_cast<uint16_t>(IntegerIn(bytes, 0x1C, 2))};
 }
 
@@ -54,7 +55,6 @@ EntryPoint ReadEntryPoint32(Bytes bytes, const std::string& file) {
 EntryPoint ReadEntryPoint64(Bytes bytes) {
   return {.tableAddress = IntegerIn(bytes, 0x10, 8),
           .tableLength = static_cast<uint32_t>(IntegerIn(bytes, 0x0C, 4)),
-          .lengthIsExact = false,
           .structureCount = std::nullopt};
 }
 
@@ -97,19 +97,23 @@ EntryPoint ReadEntryPoint(Bytes bytes, const std::string& file) {
   const bool is64 = Begins(bytes, kAnchor64);
   const size_t lengthOffset = is64 ? 0x06 : 0x05;
   const size_t shortest = is64 ? 0x18 : 0x1E;
-  const size_t needed = is64 ? 0x18 : kIntermediateOffset + kIntermediateLength;
-  if (bytes.size() < needed) {
+  const auto requireSize = [&](size_t size) {
+    if (bytes.size() >= size) return;
     throw StoreError(PlaceAt(file, bytes.size()), "the entry point is cut off");
-  }
+  };
+  requireSize(shortest);
   const uint8_t length = bytes[lengthOffset];
-  if (length < shortest || length > 0x20 || length > bytes.size()) {
+  if (length < shortest || length > 0x20) {
     throw StoreError(PlaceAt(file, lengthOffset),
                      "the entry point can't have a length of " + std::to_string(length));
   }
+  requireSize(length);
   if (!SumIsZero(bytes.first(length))) {
     throw StoreError(PlaceAt(file, 0), "the entry point's checksum is wrong");
   }
-  return is64 ? ReadEntryPoint64(bytes) : ReadEntryPoint32(bytes, file);
+  EntryPoint entryPoint = is64 ? ReadEntryPoint64(bytes) : ReadEntryPoint32(bytes, file);
+  entryPoint.length = length;
+  return entryPoint;
 }
 
 std::string Structure::Place() const {
@@ -157,33 +161,32 @@ std::optional<std::string> Structure::String(uint8_t offset) const {
 
 std::vector<Structure> ReadStructures(Bytes table, const EntryPoint& entryPoint,
                                       std::string_view file, size_t tableOffset) {
+  const size_t most = entryPoint.structureCount.value_or(UINT16_MAX);
   std::vector<Structure> structures;
   structures.reserve(
       std::min<size_t>(entryPoint.structureCount.value_or(0), table.size() / kSmallestSize));
   size_t position = 0;
+  const auto afterEnd = [&] {
+    return !structures.empty() && structures.back().Type() == kEndOfTable;
+  };
   const auto refuse = [&](const std::string& reason) {
     throw StoreError(PlaceAt(file, tableOffset + position),
                      "structure " + std::to_string(structures.size()) + " " + reason);
   };
-  while (structures.size() < entryPoint.structureCount.value_or(UINT16_MAX) &&
-         position + kHeaderLength <= table.size()) {
+  while (structures.size() < most && position + kHeaderLength <= table.size()) {
     const uint8_t length = table[position + 1];
-    const bool afterEnd = !structures.empty() && structures.back().Type() == kEndOfTable;
-    if (length < kHeaderLength) {
-      // Some firmware counts one structure too many and fills the table up behind its end.
-      if (afterEnd) break;
-      refuse("can't have a length of " + std::to_string(length));
-    }
+    // Some firmware counts one structure too many and fills the table up behind its end.
+    if (afterEnd() && (!entryPoint.structureCount || length < kHeaderLength)) break;
+    if (length < kHeaderLength) refuse("can't have a length of " + std::to_string(length));
     const std::optional<size_t> end = EndOfStrings(table, position + length);
     if (!end) refuse("reaches past the end of the table");
     structures.emplace_back(table.subspan(position, length),
                             table.subspan(position + length, *end - position - length), file,
                             tableOffset + position);
     position = *end;
-    if (!entryPoint.structureCount && structures.back().Type() == kEndOfTable) return structures;
   }
   if (structures.empty()) throw StoreError(PlaceAt(file, tableOffset), "the table is empty");
-  if (!entryPoint.structureCount && table.size() < entryPoint.tableLength) {
+  if (table.size() < entryPoint.tableLength && structures.size() < most && !afterEnd()) {
     throw StoreError(PlaceAt(file, tableOffset + table.size()),
                      "the table is cut off before its end-of-table structure");
   }

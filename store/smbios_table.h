@@ -17,10 +17,11 @@ using Bytes = std::span<const uint8_t>;
 
 /// Where a table is and when it ends (DSP0134 5.2.1 and 5.2.2).
 struct EntryPoint {
+  /// Its own length.
+  uint8_t length = 0;
   uint64_t tableAddress = 0;
-  /// The table's length; of a 64-bit entry point only the most that it can be.
+  /// The most that the table's length can be: what a system hands out ends with the last structure.
   uint32_t tableLength = 0;
-  bool lengthIsExact = true;
   /// The number of structures; a 64-bit entry point doesn't tell.
   std::optional<uint16_t> structureCount;
 };
@@ -39,7 +40,6 @@ class Structure {
       : formatted_(formatted), strings_(strings), file_(file), offset_(offset) {}
 
   uint8_t Type() const { return formatted_[0]; }
-  uint8_t Length() const { return formatted_[1]; }
   /// File and offset, as errors name them.
   std::string Place() const;
 
@@ -63,10 +63,11 @@ class Structure {
 };
 
 /// A table's structures in their order: as many as the entry point counts, else up to the
-/// end-of-table structure (type 127). `tableOffset` is where the table begins in `file`, for
-/// the errors: StoreError "FILE: byte OFFSET: reason" for a table without structures, for a
-/// structure shorter than its own header, and for one that reaches, with its strings, past the end
-/// of the table. The bytes and the file's name must outlive the structures.
+/// end-of-table structure (type 127) and 65,535 at most. `tableOffset` is where the table begins in
+/// `file`, for the errors: StoreError "FILE: byte OFFSET: reason" for a table without structures,
+/// for a structure shorter than its own header, for one that reaches, with its strings, past the
+/// end of the table, and for a table that is shorter than its length and ends before them. The
+/// bytes and the file's name must outlive the structures.
 std::vector<Structure> ReadStructures(Bytes table, const EntryPoint& entryPoint,
                                       std::string_view file, size_t tableOffset);
 

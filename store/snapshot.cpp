@@ -91,8 +91,7 @@ void Snapshot::MakeLists() {
 uint32_t Snapshot::PutList(uint32_t offset, std::span<const uint32_t> oids) {
   const auto count = static_cast<uint32_t>(oids.size());
   std::byte* const block = blocks_.get() + offset;
-  const size_t size = sizeof count + oids.size_bytes();
-  new (block) BlockPrefix{this, BlockKind::kSharedList, static_cast<uint32_t>(size)};
+  new (block) BlockPrefix{this, sizeof count + oids.size_bytes()};
   std::memcpy(block + sizeof(BlockPrefix), &count, sizeof count);
   std::copy_n(oids.begin(), count, reinterpret_cast<uint32_t*>(block + sizeof(BlockPrefix)) + 1);
   return offset + static_cast<uint32_t>(SizeOfList(count));

@@ -17,21 +17,13 @@ namespace tqcim::store {
 
 class Snapshot;
 
-/// What SMILFreeGeneric finds before a block.
-enum class BlockKind : uint32_t {
-  kSharedList,  ///< a child list inside a snapshot, which the caller's hold keeps alive
-  kObject,      ///< a caller's own copy of a data object
-  kText,        ///< a text made for the caller
-  kRecord,      ///< a log record made for the caller
-};
-
 /// Stands hidden before every block that leaves the store.
 struct BlockPrefix {
-  /// The snapshot that holds a shared list.
+  /// The snapshot in which a child list stands, which the caller's hold keeps alive; null for a
+  /// block that is the caller's own.
   Snapshot* owner;
-  BlockKind kind;
   /// The block's room in bytes, without this prefix.
-  uint32_t size;
+  size_t size;
 };
 static_assert(sizeof(BlockPrefix) == 16, "blocks stay aligned as malloc aligns them");
 

@@ -5,9 +5,9 @@
 #include "embedded/samples.h"
 #include "store/files.h"
 #include "store/firmware_table.h"
-#include "store/json_document.h"
 #include "store/store_error.h"
 #include "store/store_file.h"
+#include "store/text.h"
 
 namespace tqcim::store {
 

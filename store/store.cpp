@@ -15,15 +15,15 @@ namespace tqcim::store {
 namespace {
 
 /// A block for a caller, uninitialised, with its prefix before it; null if there is no memory.
-std::byte* NewBlock(BlockKind kind, size_t size) {
+std::byte* NewBlock(size_t size) {
   void* memory = std::malloc(sizeof(BlockPrefix) + size);
   if (memory == nullptr) return nullptr;
-  new (memory) BlockPrefix{nullptr, kind, static_cast<uint32_t>(size)};
+  new (memory) BlockPrefix{nullptr, size};
   return static_cast<std::byte*>(memory) + sizeof(BlockPrefix);
 }
 
 void* CopyOf(const StoredObject& object) {
-  std::byte* block = NewBlock(BlockKind::kObject, object.bytes.size());
+  std::byte* block = NewBlock(object.bytes.size());
   if (block != nullptr) std::memcpy(block, object.bytes.data(), object.bytes.size());
   return block;
 }
@@ -31,7 +31,7 @@ void* CopyOf(const StoredObject& object) {
 void* CopyOf(const LogRecord& record) {
   namespace layout_of = layout::event_record;
   const size_t textSize = (record.text.size() + 1) * sizeof(char16_t);
-  std::byte* block = NewBlock(BlockKind::kRecord, layout_of::kBodySize + textSize);
+  std::byte* block = NewBlock(layout_of::kBodySize + textSize);
   if (block == nullptr) return nullptr;
   std::memset(block, 0, layout_of::kBodySize);
   std::memcpy(block + layout_of::kTime.offset, &record.time, sizeof record.time);
@@ -137,12 +137,12 @@ void* Store::ListChildren(uint32_t parent, uint16_t type) const {
 }
 
 void* Store::TextAt(void* object, uint32_t offset) {
-  const uint32_t size = PrefixOf(object)->size;
+  const size_t size = PrefixOf(object)->size;
   if (offset < layout::header::kSize || offset >= size) return nullptr;
   const std::byte* const utf16 = static_cast<const std::byte*>(object) + offset;
   const std::optional<size_t> units = LengthOfUtf16(utf16, (size - offset) / sizeof(char16_t));
   if (!units) return nullptr;
-  std::byte* block = NewBlock(BlockKind::kText, *units * kUtf8BytesPerUnit + 1);
+  std::byte* block = NewBlock(*units * kUtf8BytesPerUnit + 1);
   if (block != nullptr) *PutUtf8(utf16, *units, reinterpret_cast<char*>(block)) = '\0';
   return block;
 }
@@ -150,7 +150,7 @@ void* Store::TextAt(void* object, uint32_t offset) {
 void Store::Free(void* block) {
   if (block == nullptr) return;
   BlockPrefix* prefix = PrefixOf(block);
-  if (prefix->kind == BlockKind::kSharedList) {
+  if (prefix->owner != nullptr) {
     prefix->owner->Release();
   } else {
     std::free(prefix);

@@ -7,14 +7,21 @@
 ///         {"oid": 1, "type": "system", "status": "ok"},
 ///         {"oid": 2, "type": "chassis", "status": "ok", "parents": [1]},
 ///         {"oid": 3, "type": "firmware", "status": "ok", "parents": [2],
-///          "fields": {"name": "BMC", "version": "2.41"}}
+///          "fields": {"name": "BMC", "version": "2.41"}},
+///         {"oid": 4, "type": "eventLog", "status": "ok", "parents": [2],
+///          "records": [{"time": 1779158825, "severity": "critical", "text": "AC input lost"}]}
 ///       ]
 ///     }
 ///
-/// Object and field names are those of the layout catalogue. `oid` and `type` are required. An
-/// object is listed under each of its parents, in the order of the file. `status` is one of
-/// "other", "unknown", "ok", "nonCritical", "critical", "nonRecoverable" or a number from 0 to 255;
-/// left out, it is "unknown". A field that is left out holds its layout's "none".
+/// Object and field names are those of the layout catalogue. `oid` and `type` are required, and so
+/// is `parents` for all but the system, which has none. An object is listed under each of its
+/// parents, in the order of the file. `status` is one of "other", "unknown", "ok", "nonCritical",
+/// "critical", "nonRecoverable" or a number from 0 to 255; left out, it is "unknown". A field that
+/// is left out holds its layout's "none"; of fields that share bytes only one may be given.
+///
+/// An event log alone has `records`, the oldest first; left out, there are none. Of a record `text`
+/// is required, `time` is in seconds since 1970-01-01 UTC and 0, for none, where it is left out,
+/// and `severity` is told as `status` is.
 #pragma once
 
 #include <filesystem>

@@ -9,6 +9,7 @@
 #include "store/snapshot_builder.h"
 #include "store/store_file.h"
 #include "store/store_file_words.h"
+#include "store/text.h"
 
 namespace tqcim::store {
 

@@ -1,7 +1,11 @@
 #include <algorithm>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <exception>
+#include <filesystem>
+#include <optional>
 #include <string>
 
 #include "platform/libraries.h"
@@ -19,6 +23,17 @@ constexpr int32_t kDone = 0;
 constexpr int32_t kFailed = 1;
 
 constexpr uint32_t kNumber16 = 4;
+
+/// Where INI files are found by their bare names; nowhere if the configuration is damaged, which is
+/// told.
+std::optional<std::filesystem::path> FindIniFolder() {
+  try {
+    return LoadConfiguration(LibraryFolder()).iniFolder;
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "tqsupt64: %s\n", error.what());
+    return std::nullopt;
+  }
+}
 
 /// Copies the units that fit before the terminating zero, without cutting a surrogate pair.
 /// Returns whether all of them did.
@@ -54,9 +69,9 @@ int32_t SMReadINIFileValue(const char* section, const char* key, uint32_t valueT
     return kFailed;
   }
   const auto number = NullOnFailure([&]() -> std::optional<uint16_t> {
-    static const std::filesystem::path folder = LoadConfiguration(LibraryFolder()).iniFolder;
-    if (!HasFile(folder, fileName)) return std::nullopt;
-    return ReadIniNumber(folder / fileName, section, key);
+    static const std::optional<std::filesystem::path> folder = FindIniFolder();
+    if (!folder || !HasFile(*folder, fileName)) return std::nullopt;
+    return ReadIniNumber(*folder / fileName, section, key);
   });
   if (number) {
     std::memcpy(value, &*number, sizeof(*number));

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <nlohmann/json.hpp>
 
 namespace tqcim::store {
 namespace {
@@ -109,6 +110,14 @@ std::string Utf8FromUtf16(std::u16string_view utf16) {
   const char* end = PutUtf8(utf16.data(), utf16.size(), utf8.data());
   utf8.resize(static_cast<size_t>(end - utf8.data()));
   return utf8;
+}
+
+std::string Quoted(std::string_view text) {
+  using nlohmann::json;
+  constexpr size_t kLongest = 60;
+  const bool cut = text.size() > kLongest;
+  return json(std::string(text.substr(0, kLongest)) + (cut ? "..." : ""))
+      .dump(-1, ' ', true, json::error_handler_t::replace);
 }
 
 }  // namespace tqcim::store

@@ -1,4 +1,5 @@
-/// Conversion between UTF-8 and the UTF-16 code units in which data objects hold their texts.
+/// Conversion between UTF-8 and the UTF-16 code units in which data objects hold their texts, and
+/// texts in error sentences.
 #pragma once
 
 #include <cstddef>
@@ -24,5 +25,9 @@ char* PutUtf8(const void* utf16, size_t units, char* utf8);
 
 /// The text as UTF-8, by the same rules.
 std::string Utf8FromUtf16(std::u16string_view utf16);
+
+/// The text in quotes, for error sentences: shortened, and in printable ASCII on one line whatever
+/// it contains.
+std::string Quoted(std::string_view text);
 
 }  // namespace tqcim::store

@@ -8,8 +8,8 @@ namespace tqcim::layout {
 namespace baseboard {
 inline constexpr uint16_t kType = 259;
 
-/// DSP0134 7.3.2.
-inline constexpr Field<uint32_t> kBoardType{"boardType", 16};
+/// DSP0134 7.3.2; 1 = unknown.
+inline constexpr Field<uint32_t> kBoardType{"boardType", 16, 1};
 /// Bit 0 hosting board, 1 requires daughter board, 2 removable, 3 replaceable, 4 hot swappable.
 inline constexpr Field<uint8_t> kFlags{"flags", 20};
 inline constexpr Ucs2Field kManufacturer{"manufacturer", 28, AbsentText::kZeroOffset};

@@ -8,8 +8,8 @@ namespace tqcim::layout {
 namespace slot {
 inline constexpr uint16_t kType = 228;
 
-/// DSP0134 7.10.1.
-inline constexpr Field<uint32_t> kSlotType{"slotType", 16};
+/// DSP0134 7.10.1; 2 = unknown.
+inline constexpr Field<uint32_t> kSlotType{"slotType", 16, 2};
 inline constexpr Field<uint32_t> kNumber{"number", 28};
 inline constexpr Field<int16_t> kHotPlug{"hotPlug", 48};
 inline constexpr Utf8Field kName{"name", 80};

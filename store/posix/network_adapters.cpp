@@ -177,6 +177,10 @@ Gateways ReadIpv6Gateways(const fs::path& proc) {
   return gateways;
 }
 
+bool HasAddress(const InterfaceFacts& facts) {
+  return !facts.ipv4.address.empty() || !facts.ipv6.address.empty();
+}
+
 /// "eth0", or "eth0 (uplink)" with the alias that the administrator gave it.
 std::string DescriptionOf(const std::string& name, const std::string& alias) {
   return alias.empty() ? name : name + " (" + alias + ")";
@@ -213,7 +217,8 @@ std::vector<NetworkAdapter> ReadNetworkAdapters(const fs::path& sys, const fs::p
       adapter.permanentMac = adapter.currentMac;
     }
     const std::string master = LinkedName(folder / "master");
-    const std::string& configured = master.empty() ? adapter.name : master;
+    const bool hasOwnAddress = HasAddress(factsOf(adapter.name));
+    const std::string& configured = master.empty() || hasOwnAddress ? adapter.name : master;
     const InterfaceFacts addresses = factsOf(configured);
     adapter.ipv4 = addresses.ipv4;
     adapter.ipv4.gateway = ipv4Gateways.Of(configured);

@@ -30,7 +30,8 @@ InterfaceFactsByName ReadInterfaceFacts();
 /// virtual functions of a device that is there itself.
 ///
 /// A member of a bond, team or bridge has the addresses of that: what reaches them comes through
-/// it. Linux keeps neither the DHCP server nor the names of maker and product.
+/// it. One that has an address of its own, as members of a VRF do, keeps it. Linux keeps neither
+/// the DHCP server nor the names of maker and product.
 std::vector<NetworkAdapter> ReadNetworkAdapters(const std::filesystem::path& sys,
                                                 const std::filesystem::path& proc,
                                                 const InterfaceFactsByName& facts);

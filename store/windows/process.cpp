@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include "store/windows/wide_text.h"
+
 namespace tqcim::store {
 
 std::filesystem::path LibraryFolder() {
@@ -44,8 +46,7 @@ std::optional<std::string> EnvironmentText(const char* name) {
   value.resize(
       GetEnvironmentVariableW(wideName.c_str(), value.data(), static_cast<DWORD>(value.size())));
   if (value.empty()) return std::nullopt;
-  const std::u8string utf8 = std::filesystem::path(value).u8string();
-  return std::string(utf8.begin(), utf8.end());
+  return Utf8(value);
 }
 
 }  // namespace tqcim::store

@@ -88,6 +88,29 @@ TEST(FirmwareTable, MayBeShorterThanA64BitEntryPointAllows) {
   EXPECT_EQ(ModelIn(folder.Write("DMI", TextOf(kTable))), u"Tessera");
 }
 
+TEST(FirmwareTable, MayComeWithoutTheFillingThatItsEntryPointCounts) {
+  const TemporaryFolder folder;
+  const ByteVector entryPoint = EntryPoint32(64, 2);
+  const ByteVector filled = Joined({kTable, ByteVector(64 - kTable.size(), 0xFF)});
+  const auto dump = folder.Write("32.bin", TextOf(Joined({entryPoint, filled})));
+  EXPECT_EQ(ModelIn(dump), u"Tessera");
+  // Linux hands out the structures alone.
+  folder.Write("smbios_entry_point", TextOf(entryPoint));
+  EXPECT_EQ(ModelIn(folder.Write("DMI", TextOf(kTable))), u"Tessera");
+}
+
+TEST(FirmwareTable, IsReadWithAnEntryPointThatLeavesItsLastByteOut) {
+  const TemporaryFolder folder;
+  ByteVector entryPoint = EntryPoint32(static_cast<uint16_t>(kTable.size()), 2);
+  entryPoint[5] = 0x1E;
+  entryPoint[0x1E] = 0x21;
+  testing::Sum(entryPoint, 0x10, 0x0F, 0x15);
+  testing::Sum(entryPoint, 0, 0x1E, 4);
+  entryPoint.resize(0x1E);
+  folder.Write("smbios_entry_point", TextOf(entryPoint));
+  EXPECT_EQ(ModelIn(folder.Write("DMI", TextOf(kTable))), u"Tessera");
+}
+
 TEST(FirmwareTable, IsReadOnlyAsFarAsItsLength) {
   const TemporaryFolder folder;
   const ByteVector dump = Joined(
@@ -102,8 +125,11 @@ TEST(FirmwareTable, CutOffIsToldWithFileAndByte) {
   ASSERT_EQ(kTable.size(), 26U);
   dump.resize(dump.size() - 7);
   EXPECT_EQ(FailureOf(folder.Write("32.bin", TextOf(dump)), folder),
-            "32.bin: byte 0x33: the table is cut off: its entry point gives it 26 bytes, the file "
-            "has 19");
+            "32.bin: byte 0x20: structure 0 reaches past the end of the table");
+  dump = Joined({EntryPoint32(length, 2), kTable});
+  dump.resize(dump.size() - 6);
+  EXPECT_EQ(FailureOf(folder.Write("32.bin", TextOf(dump)), folder),
+            "32.bin: byte 0x34: the table is cut off before its end-of-table structure");
   dump = Dump64(kTable);
   dump.resize(dump.size() - 7);
   EXPECT_EQ(FailureOf(folder.Write("64.bin", TextOf(dump)), folder),
@@ -134,6 +160,22 @@ TEST(FirmwareTable, AnAddressPastTheFileIsToldInBothSizes) {
   EXPECT_EQ(FailureOf(folder.Write("far.bin", TextOf(dump)), folder),
             "far.bin: byte 0x0: the entry point gives the table an address, 18374686479671623712, "
             "past the end of the file");
+}
+
+TEST(FirmwareTable, AnAddressInsideTheEntryPointIsRefused) {
+  const TemporaryFolder folder;
+  ByteVector dump = Dump64(kTable);
+  for (const uint8_t address : ByteVector{0, 0x17}) {
+    dump[0x10] = address;
+    testing::Sum(dump, 0, 0x18, 5);
+    EXPECT_EQ(FailureOf(folder.Write("near.bin", TextOf(dump)), folder),
+              "near.bin: byte 0x0: the entry point gives the table an address, " +
+                  std::to_string(address) + ", inside itself");
+  }
+  dump.erase(dump.begin() + 0x18, dump.begin() + 0x20);
+  dump[0x10] = 0x18;
+  testing::Sum(dump, 0, 0x18, 5);
+  EXPECT_EQ(ModelIn(folder.Write("next.bin", TextOf(dump))), u"Tessera");
 }
 
 TEST(FirmwareTable, WithoutAnEntryPointIsNone) {

@@ -1,5 +1,5 @@
 // Prints what a process that opens no store of its own finds at its first use of the libraries: the
-// model of the main chassis, and a number of an INI file.
+// model of the main chassis, and a number of an INI file, for which it asks twice.
 
 #include <cstdint>
 #include <cstdio>
@@ -28,8 +28,10 @@ int main() {
   SMILFreeGeneric(list);
 
   uint16_t number = 7;
-  uint32_t size = sizeof(number);
-  const int32_t result =
-      SMReadINIFileValue("Section", "key", 4, &number, &size, &number, 2, "probe.ini", 1);
-  std::printf("ini %d %u\n", result, number);
+  const auto readNumber = [&] {
+    uint32_t size = sizeof(number);
+    return SMReadINIFileValue("Section", "key", 4, &number, &size, &number, 2, "probe.ini", 1);
+  };
+  readNumber();
+  std::printf("ini %d %u\n", readNumber(), number);
 }

@@ -104,7 +104,11 @@ TEST_F(ObjectLibrary, KeepsTheStoreInServiceWhenASourceFails) {
   EXPECT_EQ(Open("tape"),
             "there is no source \"tape\"; there are sample, store-file:PATH, firmware-table:PATH "
             "and firmware");
-  EXPECT_EQ(Open("sample "), Open("sample ")) << "a name is exact";
+  EXPECT_EQ(
+      Open("sample "),
+      "there is no source \"sample \"; there are sample, store-file:PATH, firmware-table:PATH "
+      "and firmware")
+      << "a name is exact";
   EXPECT_EQ(TextOf(3, 40), "Tessera 2200");
 }
 

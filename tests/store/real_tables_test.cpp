@@ -68,6 +68,39 @@ uint32_t ChassisType(const std::string& name) {
   return CodeOf(names, name);
 }
 
+/// DSP0134 7.5.2, as far as these machines need it.
+uint32_t ProcessorFamily(const std::string& name) {
+  const std::pair<const char*, uint32_t> names[] = {{"Other", 0x01},   {"Zen", 0x6B},
+                                                    {"Opteron", 0x84}, {"Xeon", 0xB3},
+                                                    {"Xeon MP", 0xB5}, {"Multi-Core Xeon", 0xD6}};
+  return CodeOf(names, name);
+}
+
+/// DSP0134 7.5.5, as far as these machines need it.
+uint32_t ProcessorUpgrade(const std::string& name) {
+  const std::pair<const char*, uint32_t> names[] = {
+      {"Other", 0x01},          {"ZIF Socket", 0x04},       {"None", 0x06},
+      {"Socket 940", 0x11},     {"Socket LGA1366", 0x19},   {"Socket G34", 0x1A},
+      {"Socket LGA2011", 0x26}, {"Socket LGA2011-3", 0x2B}, {"Socket LGA3647-1", 0x36},
+      {"Socket SP3r2", 0x38},   {"Socket LGA1200", 0x3E}};
+  return CodeOf(names, name);
+}
+
+/// DSP0134 7.18.1, as far as these machines need it.
+uint32_t MemoryFormFactor(const std::string& name) {
+  const std::pair<const char*, uint32_t> names[] = {
+      {"Unknown", 0x02}, {"Chip", 0x05}, {"DIMM", 0x09}, {"SODIMM", 0x0D}, {"FB-DIMM", 0x0F}};
+  return CodeOf(names, name);
+}
+
+/// DSP0134 7.18.2, as far as these machines need it.
+uint32_t MemoryType(const std::string& name) {
+  const std::pair<const char*, uint32_t> names[] = {
+      {"Other", 0x01}, {"Unknown", 0x02}, {"RAM", 0x07},          {"Flash", 0x09}, {"DDR", 0x12},
+      {"DDR2", 0x13},  {"DDR3", 0x18},    {"DDR2 FB-DIMM", 0x14}, {"DDR4", 0x1A}};
+  return CodeOf(names, name);
+}
+
 uint8_t StateStatus(const std::string& state) {
   return state == "Safe" ? 2 : state == "Warning" ? 3 : state == "Critical" ? 4 : 0;
 }
@@ -111,6 +144,8 @@ void CompareBios(const Snapshot& snapshot, const fs::path& text) {
 
 void CompareProcessor(const std::byte* processor, const DecodedStructure& expected) {
   EXPECT_EQ(TextIn(processor, 72), expected["Version"]);
+  EXPECT_EQ(U32(processor, 20), ProcessorFamily(expected["Family"]));
+  EXPECT_EQ(U32(processor, 44), ProcessorUpgrade(expected["Upgrade"]));
   EXPECT_EQ(U32(processor, 24), NumberIn(expected["Max Speed"]));
   EXPECT_EQ(U32(processor, 28), NumberIn(expected["Current Speed"]));
   EXPECT_EQ(U32(processor, 56), NumberIn(expected["Core Count"]));
@@ -153,6 +188,8 @@ void CompareMemoryDevice(const std::byte* memory, const DecodedStructure& expect
   EXPECT_EQ(capacity, BytesIn(expected["Size"]));
   EXPECT_EQ(U32(memory, 16), NumberIn(expected["Total Width"]));
   EXPECT_EQ(U32(memory, 20), NumberIn(expected["Data Width"]));
+  EXPECT_EQ(U32(memory, 28), MemoryFormFactor(expected["Form Factor"]));
+  EXPECT_EQ(U32(memory, 36), MemoryType(expected["Type"]));
   EXPECT_EQ(TextIn(memory, 68), expected["Locator"]);
   EXPECT_EQ(TextIn(memory, 72), expected["Bank Locator"]);
   EXPECT_EQ(TextIn(memory, 80), expected["Manufacturer"]);
@@ -178,7 +215,7 @@ void CompareBaseboards(const Snapshot& snapshot, const fs::path& text) {
                                                     {"I/O Module", 7},
                                                     {"Memory Module", 8},
                                                     {"Motherboard", 10},
-                                                    {"", 0}};
+                                                    {"", 1}};
   const std::pair<const char*, uint8_t> features[] = {
       {"Board is a hosting board", 0x01},
       {"Board requires at least one daughter board", 0x02},

@@ -115,7 +115,7 @@ TEST(SmbiosBaseboard, AnOldRecordTellsOnlyWhatItHas) {
   EXPECT_EQ(Text(BytesOf(*eight, kBoard), 40), u"VB19C");
   EXPECT_EQ(U32(BytesOf(*eight, kBoard), 52), 0U) << "asset tag";
   EXPECT_EQ(U8(BytesOf(*eight, kBoard), 20), 0) << "features";
-  EXPECT_EQ(U32(BytesOf(*eight, kBoard), 16), 0U) << "type";
+  EXPECT_EQ(U32(BytesOf(*eight, kBoard), 16), 1U) << "unknown type";
   EXPECT_EQ(U32(BytesOf(*eight, kBoard), 60), 0U) << "type in words";
   const auto withFeatures = of(0x0A);
   EXPECT_EQ(Text(BytesOf(*withFeatures, kBoard), 52), u"TAG7");
@@ -123,7 +123,7 @@ TEST(SmbiosBaseboard, AnOldRecordTellsOnlyWhatItHas) {
   EXPECT_EQ(U32(BytesOf(*withFeatures, kBoard), 56), 0U) << "location";
   const auto withLocation = of(0x0D);
   EXPECT_EQ(Text(BytesOf(*withLocation, kBoard), 56), u"Slot 0");
-  EXPECT_EQ(U32(BytesOf(*withLocation, kBoard), 16), 0U) << "type";
+  EXPECT_EQ(U32(BytesOf(*withLocation, kBoard), 16), 1U) << "unknown type";
   EXPECT_EQ(U32(BytesOf(*of(0x0E), kBoard), 16), 10U) << "without its contained objects";
 }
 

@@ -106,12 +106,6 @@ TEST(SmbiosChassis, OfAnOldRecordHasNoStates) {
   EXPECT_EQ(Text(BytesOf(*snapshot, kIdentity), 36), u"TAG1");
 }
 
-TEST(SmbiosChassis, IsTheFirstEnclosureOfSeveral) {
-  const auto snapshot = SnapshotOfStructures({WithStrings(kEnclosure, {"", "b", "SN1", "TAG1"}),
-                                              WithStrings(kEnclosure, {"a", "b", "SN2", "TAG2"})});
-  EXPECT_EQ(Oids(snapshot->Children(1, 17)), std::vector<uint32_t>({2}));
-}
-
 const ByteVector kBiosStructure = {0,    0x18, 0,    0,    1,    2,    0,    0xF0,
                                    3,    0xFF, 0x80, 0x90, 0xD9, 0x08, 0x11, 0x22,
                                    0x33, 0x44, 0x03, 0x0D, 2,    7,    0xFF, 0xFF};
@@ -412,6 +406,21 @@ TEST(SmbiosSource, RecordsOfTheBareHeaderTellNothingAndBreakNothing) {
        WithStrings({126, 4, 5, 0}, {})});
   EXPECT_EQ(snapshot->Objects().size(), 9U)
       << "system, chassis and its two, bios, a board, a socket, a slot, a pointing device";
+}
+
+TEST(SmbiosSource, TheFirstBiosSystemAndEnclosureOfSeveralCount) {
+  const auto snapshot = SnapshotOfStructures(
+      {WithStrings(kBiosStructure, {"Vorn", "2.7.1", "03/14/2024"}), kSystemStructure,
+       WithStrings(kEnclosure, {"Vorn", "rev 2", "SN1", "TAG1"}),
+       WithStrings(kBiosStructure, {"Vorn", "1.0.0", "01/02/2020"}),
+       WithStrings({1, 8, 2, 0, 1, 2, 3, 4}, {"Vorn", "Tessera 1100", "A2", "VR8"}),
+       WithStrings(kEnclosure, {"Vorn", "rev 3", "SN2", "TAG2"})});
+  EXPECT_EQ(Oids(snapshot->Children(2, 212)), std::vector<uint32_t>({kBios}));
+  EXPECT_EQ(Text(BytesOf(*snapshot, kBios), 36), u"2.7.1");
+  EXPECT_EQ(Text(BytesOf(*snapshot, kDescription), 40), u"Tessera 2200");
+  EXPECT_EQ(Text(BytesOf(*snapshot, kDescription), 48), u"rev 2");
+  EXPECT_EQ(Oids(snapshot->Children(1, 17)), std::vector<uint32_t>({2}));
+  EXPECT_EQ(Text(BytesOf(*snapshot, kIdentity), 32), u"SN1");
 }
 
 TEST(SmbiosSource, StructuresAreNumberedByTypeWhateverStandsBetween) {

@@ -52,17 +52,17 @@ const ByteVector kEntryPoint64 = {
 
 TEST(SmbiosEntryPoint, A32BitOneTellsAddressLengthAndNumberOfStructures) {
   const EntryPoint entryPoint = ReadEntryPoint(kEntryPoint32, "f");
+  EXPECT_EQ(entryPoint.length, 0x1F);
   EXPECT_EQ(entryPoint.tableAddress, 0x000F0020U);
   EXPECT_EQ(entryPoint.tableLength, 0x1234U);
-  EXPECT_TRUE(entryPoint.lengthIsExact);
   EXPECT_EQ(entryPoint.structureCount, 129);
 }
 
 TEST(SmbiosEntryPoint, A64BitOneTellsAddressAndMostLength) {
   const EntryPoint entryPoint = ReadEntryPoint(kEntryPoint64, "f");
+  EXPECT_EQ(entryPoint.length, 0x18);
   EXPECT_EQ(entryPoint.tableAddress, 0x0F000020U);
   EXPECT_EQ(entryPoint.tableLength, 0x00010F60U);
-  EXPECT_FALSE(entryPoint.lengthIsExact);
   EXPECT_EQ(entryPoint.structureCount, std::nullopt);
 }
 
@@ -106,7 +106,7 @@ TEST(SmbiosEntryPoint, ALengthThatCannotBeIsRefused) {
     EXPECT_EQ(EntryPointFailure(changed),
               "f: byte 0x5: the entry point can't have a length of " + std::to_string(length));
   }
-  for (const int length : {0, 0x17, 0x19, 0xFF}) {
+  for (const int length : {0, 0x17, 0x21, 0xFF}) {
     ByteVector changed = kEntryPoint64;
     changed[6] = static_cast<uint8_t>(length);
     EXPECT_EQ(EntryPointFailure(changed),
@@ -118,7 +118,22 @@ TEST(SmbiosEntryPoint, TheLengthThatVersion21GaveByMistakeIsTaken) {
   ByteVector changed = kEntryPoint32;
   changed[5] = 0x1E;
   tqcim::testing::Sum(changed, 0, 0x1E, 4);
-  EXPECT_EQ(EntryPointFailure(changed), "no failure");
+  EXPECT_EQ(ReadEntryPoint(changed, "f").structureCount, 129);
+  changed[0x1E] = 0x21;
+  EXPECT_EQ(EntryPointFailure(changed), "f: byte 0x10: the intermediate checksum is wrong");
+  changed.resize(0x1E);
+  EXPECT_EQ(ReadEntryPoint(changed, "f").structureCount, 129)
+      << "what is not there is in no checksum";
+}
+
+TEST(SmbiosEntryPoint, ALengthPastTheEndOfTheFileIsCutOff) {
+  ByteVector changed = kEntryPoint32;
+  changed[5] = 0x20;
+  changed.resize(0x1F);
+  EXPECT_EQ(EntryPointFailure(changed), "f: byte 0x1F: the entry point is cut off");
+  changed = kEntryPoint64;
+  changed[6] = 0x19;
+  EXPECT_EQ(EntryPointFailure(changed), "f: byte 0x18: the entry point is cut off");
 }
 
 TEST(SmbiosEntryPoint, CutOffAnywhereItIsRefused) {
@@ -245,6 +260,20 @@ TEST(SmbiosStructures, ATableThatEndsBetweenStructuresBeforeItsLengthIsCutOff) {
   entryPoint.tableLength = 7;
   EXPECT_EQ(FailureOf([&] { ReadStructures(table, entryPoint, "f", 0); }),
             "f: byte 0x6: the table is cut off before its end-of-table structure");
+}
+
+TEST(SmbiosStructures, ATableShorterThanItsLengthIsWholeWithAllThatItCountsOrItsEnd) {
+  const ByteVector one = WithStrings({1, 4, 0, 0}, {});
+  const auto failure = [](const ByteVector& table, uint16_t count) {
+    EntryPoint entryPoint;
+    entryPoint.tableLength = 100;
+    entryPoint.structureCount = count;
+    return FailureOf([&] { ReadStructures(table, entryPoint, "f", 0); });
+  };
+  EXPECT_EQ(failure(one, 1), "no failure");
+  EXPECT_EQ(failure(one, 2), "f: byte 0x6: the table is cut off before its end-of-table structure");
+  EXPECT_EQ(failure(Joined({one, kEndOfTable}), 3), "no failure")
+      << "firmware that counts too many";
 }
 
 TEST(SmbiosStructures, StringsWithoutTheirDoubleZeroAreRefused) {

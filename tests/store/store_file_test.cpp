@@ -305,6 +305,13 @@ TEST(StoreFile, AnObjectOfCountlessNamesIsRefused) {
   EXPECT_EQ(FailureOf("{" + names + "}"), "f.json:1: an object of too many names");
 }
 
+TEST(StoreFile, CountlessValuesAreRefused) {
+  std::string parents = "1";
+  for (int i = 0; i < 1000000; ++i) parents += ",1";
+  EXPECT_EQ(ObjectFailure(R"({"oid": 3, "type": "slot", "parents": [)" + parents + "]}"),
+            "f.json:6: more values than any store has");
+}
+
 TEST(StoreFile, LongAndUnprintableNamesMakeOneShortSentence) {
   const std::string sentence = FieldFailure("bios", "\"" + std::string(5000, 'x') + "\": 1");
   EXPECT_EQ(sentence, "f.json:6: a bios has no field \"" + std::string(60, 'x') + "...\"");

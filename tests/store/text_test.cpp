@@ -45,5 +45,12 @@ TEST(Text, UnpairedSurrogatesBecomeReplacementCharacters) {
   EXPECT_EQ(Utf8FromUtf16(u"\xD83D"), "\xEF\xBF\xBD");
 }
 
+TEST(Text, QuotedIsShortAsciiOnOneLine) {
+  EXPECT_EQ(Quoted("tape"), R"("tape")");
+  EXPECT_EQ(Quoted("a\n\"\xC3\xA4\xFF"), R"("a\n\"\u00e4\ufffd")");
+  EXPECT_EQ(Quoted(std::string(60, 'x')), '"' + std::string(60, 'x') + '"');
+  EXPECT_EQ(Quoted(std::string(61, 'x')), '"' + std::string(60, 'x') + "...\"");
+}
+
 }  // namespace
 }  // namespace tqcim::store

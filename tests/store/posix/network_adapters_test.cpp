@@ -204,6 +204,20 @@ TEST_F(LinuxFolders, AMemberHasTheAddressesOfItsBond) {
   EXPECT_EQ(adapter.permanentMac, (Mac{0, 0, 0x5E, 0, 0x53, 0x99}));
 }
 
+TEST_F(LinuxFolders, AMemberOfAVrfKeepsItsOwnAddresses) {
+  const auto eth = AddInterface("pci0000:00/0000:00:03.0", "eth0");
+  AddVirtualInterface("vrf0");
+  Link(eth / "master", "../../../../virtual/net/vrf0");
+  facts_["vrf0"] = {{"127.0.0.1", "255.0.0.0", "", ""}, {}, {}};
+  const IpConfiguration ipv4 = {"192.0.2.22", "255.255.255.0", "", ""};
+  const IpConfiguration ipv6 = {"2001:db8::22", "ffff:ffff:ffff:ffff::", "", ""};
+  facts_["eth0"] = {ipv4, {}, {}};
+  EXPECT_EQ(ReadOne().ipv4, ipv4);
+  facts_["eth0"] = {{}, ipv6, {}};
+  EXPECT_EQ(ReadOne().ipv4, IpConfiguration());
+  EXPECT_EQ(ReadOne().ipv6, ipv6);
+}
+
 TEST_F(LinuxFolders, OddRoutesAreNone) {
   AddInterface("pci0000:00/0000:00:03.0", "eth0");
   Write("proc/net/route",
