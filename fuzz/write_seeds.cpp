@@ -10,7 +10,6 @@
 #include <string>
 #include <string_view>
 
-#include "host/object_path.h"
 #include "store/files.h"
 #include "store/firmware_table.h"
 #include "store/store_file.h"
@@ -78,16 +77,12 @@ void WriteTables(const std::filesystem::path& folder) {
 
 void WritePaths(const std::filesystem::path& folder) {
   Seeds seeds(folder / "object_path");
-  host::ObjectPath path{.server = "HOST", .namespaces = {"root", "cimv2"}, .class_name = "C"};
-  seeds.Add(host::FullText(path, true));
-  path.singleton = true;
-  seeds.Add(host::RelativeText(path));
-  path.singleton = false;
-  path.keys = {{"a", "x\"y\\z'"}, {"b", int64_t{-7}}, {"c", UINT64_MAX}, {"d", true}};
-  seeds.Add(host::FullText(path, true));
-  seeds.Add(host::FullText(path, false));
-  path.keys = {{"", "x"}};
-  seeds.Add(host::RelativeText(path));
+  seeds.Add(R"(\\HOST\root\cimv2:C)");
+  seeds.Add("C=@");
+  const std::string keys = R"(C.a="x\"y\\z'",b=-7,c=18446744073709551615,d=TRUE)";
+  seeds.Add(R"(\\HOST\root\cimv2:)" + keys);
+  seeds.Add(R"(root\cimv2:)" + keys);
+  seeds.Add(R"(C="x")");
 }
 
 void WriteMof(const std::filesystem::path& folder) {

@@ -21,12 +21,12 @@ Value PropertyOf(const DeclaredInstance& instance, std::string_view name) {
 }
 
 const DeclaredInstance* FindInstance(const Schema& schema, std::string_view class_name,
-                                     std::string_view property, const Value& value) {
+                                     std::string_view property, const std::string& value) {
   const auto& instances = schema.Instances();
   const auto found =
       std::find_if(instances.begin(), instances.end(), [&](const DeclaredInstance& instance) {
         return EqualNames(instance.class_name, class_name) &&
-               (property.empty() || PropertyOf(instance, property) == value);
+               PropertyOf(instance, property) == Value(value);
       });
   return found == instances.end() ? nullptr : &*found;
 }
@@ -92,7 +92,8 @@ ProviderRegistration FindRegistration(const Schema& schema) {
   if (!text || FAILED(CLSIDFromString(ToWide(*text).c_str(), &registration.clsid))) {
     RefuseSchema("provider " + registration.name + " has no CLSID");
   }
-  const DeclaredInstance* supports = FindInstance(schema, "__InstanceProviderRegistration", {}, {});
+  const DeclaredInstance* supports = FindInstance(schema, "__InstanceProviderRegistration",
+                                                  "Provider", "$" + std::string(provider->alias));
   if (!supports || PropertyOf(*supports, "SupportsGet") != Value(true) ||
       PropertyOf(*supports, "SupportsEnumeration") != Value(true)) {
     RefuseSchema("provider " + registration.name +

@@ -162,16 +162,17 @@ bool IsArrayOf(const VARIANT& value, VARTYPE element_type) {
          held == element_type;
 }
 
-}  // namespace
-
 VARTYPE VariantTypeOf(CimType type, bool array) {
   return static_cast<VARTYPE>(ElementType(type) | (array ? VT_ARRAY : 0));
 }
 
+/// Arrays with CIM_FLAG_ARRAY.
 CIMTYPE CimTypeCode(const PropertyDefinition& property) {
   return static_cast<CIMTYPE>(property.type) |
          (property.array ? static_cast<CIMTYPE>(CIM_FLAG_ARRAY) : 0);
 }
+
+}  // namespace
 
 bool StandsForNull(const VARIANT& value) {
   return V_VT(&value) == VT_NULL || (V_VT(&value) == VT_BSTR && !V_BSTR(&value));

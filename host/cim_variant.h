@@ -8,12 +8,6 @@
 
 namespace tqcim::host {
 
-/// The VARIANT type of a CIM type.
-VARTYPE VariantTypeOf(CimType type, bool array);
-
-/// The CIMTYPE of a property, arrays with CIM_FLAG_ARRAY.
-CIMTYPE CimTypeCode(const PropertyDefinition& property);
-
 /// Whether a property takes a value as it is, without any conversion: WBEM_S_NO_ERROR or
 /// WBEM_E_TYPE_MISMATCH. `type` is the CIMTYPE that goes with the value, or 0. VT_NULL and a null
 /// string fit every property, the string only one whose values are texts.

@@ -193,7 +193,7 @@ std::vector<DeclaredInstance> BuildInstances(const std::vector<ParsedInstance>& 
       throw MofError(*declaration.source, class_name,
                      "there is no class " + std::string(class_name));
     }
-    DeclaredInstance instance{class_name, {}};
+    DeclaredInstance instance{class_name, declaration.alias, {}};
     for (const auto& [name, value] : declaration.assignments) {
       instance.properties.emplace_back(
           name, definition ? CheckedValue(*declaration.source, name, value, *definition) : value);

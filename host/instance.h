@@ -27,6 +27,9 @@ struct Instance {
   const ClassDefinition* definition = nullptr;
   std::vector<Property> properties;         ///< every declared property, in the class's order
   std::vector<std::string_view> put_order;  ///< names in the order in which the provider put them
+  /// Names that the provider put and the schema refused: one that doesn't look at the result of a
+  /// put loses the property without a word.
+  std::vector<std::string> refused_puts;
 
   /// The relative object path, "CLASS.KEY=\"...\",..."; empty where a key is null.
   std::string Path() const;

@@ -12,15 +12,6 @@
 namespace tqcim::host {
 namespace {
 
-std::shared_ptr<const Schema> LoadSchema(const std::filesystem::path& folder) {
-  try {
-    return std::make_shared<const Schema>(folder.empty() ? Schema::Embedded()
-                                                         : Schema::FromFolder(folder));
-  } catch (const std::runtime_error& error) {
-    throw HostError(HostError::Kind::kSchema, error.what());
-  }
-}
-
 ObjectPath ParsePath(std::string_view text) {
   const std::string quoted = "object path '" + std::string(text) + "'";
   ObjectPath path;
@@ -89,7 +80,8 @@ ManagementHost::ManagementHost(std::unique_ptr<Parts> parts) : parts_(std::move(
 ManagementHost::~ManagementHost() = default;
 
 std::unique_ptr<ManagementHost> ManagementHost::Open(const HostOptions& options) {
-  auto schema = LoadSchema(options.schema_folder);
+  auto schema =
+      options.schema ? options.schema : std::make_shared<const Schema>(Schema::Embedded());
   const ProviderRegistration registration = FindRegistration(*schema);
   std::optional<std::filesystem::path> module;
   if (!options.registered) {

@@ -20,8 +20,8 @@ namespace tqcim::host {
 struct HostOptions {
   /// The provider module. Empty: the one that stands beside the running program.
   std::filesystem::path module;
-  /// A folder of *.mof files. Empty: the schema that the program carries.
-  std::filesystem::path schema_folder;
+  /// The classes and the registration of their provider. Null: the schema that the program carries.
+  std::shared_ptr<const Schema> schema;
   /// The provider module is the one that COM's registry names for its class, whatever `module`
   /// says.
   bool registered = false;
@@ -31,7 +31,7 @@ struct HostOptions {
 class HostError : public std::runtime_error {
  public:
   enum class Kind {
-    kSchema,        ///< the schema can't be read or is not valid
+    kSchema,        ///< the schema names no provider that can be asked
     kModule,        ///< the provider module can't be loaded or refuses to start
     kUnknownClass,  ///< no served class has that name
     kBadPath,       ///< the text is not an object path of this namespace
@@ -61,7 +61,8 @@ class ManagementHost {
   /// Called once per instance, while the provider is still working.
   using InstanceCallback = std::function<void(Instance)>;
 
-  /// Reads the schema, loads and initialises the provider. Throws HostError.
+  /// Loads and initialises the provider. Throws HostError; natively a second host is refused with
+  /// kPlatform.
   static std::unique_ptr<ManagementHost> Open(const HostOptions& options = {});
 
   /// Releases the provider, asks the module whether it may go, and unloads it.
@@ -75,13 +76,14 @@ class ManagementHost {
 
   const Schema& schema() const;
 
-  /// All instances of a served class, named in any case. Throws HostError (kUnknownClass); what
-  /// the callback throws reaches the caller.
+  /// All instances of a served class, named in any case. Throws HostError: kUnknownClass, or
+  /// kPlatform on a thread of a single-threaded apartment. What the callback throws reaches the
+  /// caller.
   Outcome Enumerate(std::string_view class_name, const InstanceCallback& callback);
 
   /// The instances that an object path names ('CIM_Processor.DeviceID="1"', with or without
   /// \\server\namespace in front). Success without any instance means that there is none. Throws
-  /// HostError (kBadPath, kUnknownClass).
+  /// HostError: kBadPath, or what Enumerate throws.
   Outcome Get(std::string_view path, const InstanceCallback& callback);
 
  private:

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdint>
-#include <optional>
 #include <utility>
 
 #include "host/text.h"
@@ -16,14 +14,25 @@ namespace {
 constexpr size_t kLongestWord = 255;
 
 /// What a byte can begin, or go on with.
-enum class Sort : uint8_t { kNone, kBlank, kLetter, kDigit, kSign, kPunctuation, kQuote, kComment };
+enum class Sort : uint8_t {
+  kNone,
+  kBlank,
+  kLetter,
+  kDigit,
+  kSign,
+  kPoint,
+  kPunctuation,
+  kQuote,
+  kComment
+};
 
 constexpr auto kSorts = [] {
   constexpr std::pair<std::string_view, Sort> kMembers[] = {
       {" \t\r\n", Sort::kBlank},
       {"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_", Sort::kLetter},
       {"0123456789", Sort::kDigit},
-      {"+-.", Sort::kSign},
+      {"+-", Sort::kSign},
+      {".", Sort::kPoint},
       {"[]{}():;,=#$", Sort::kPunctuation},
       {"\"'", Sort::kQuote},
       {"/", Sort::kComment}};
@@ -40,9 +49,6 @@ Sort SortOf(char c) {
 constexpr auto IsWordCharacter = [](char c) {
   return SortOf(c) == Sort::kLetter || SortOf(c) == Sort::kDigit;
 };
-bool IsHexDigit(char c) {
-  return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
-}
 
 constexpr std::string_view kEscapes = "btnfr\"'\\";
 constexpr std::string_view kEscaped = "\b\t\n\f\r\"'\\";
@@ -174,6 +180,9 @@ MofToken::Kind MofLexer::Pass() {
     case Sort::kDigit:
       return Number();
     case Sort::kSign:
+      if (IsDigit(Peek(Peek(1) == '.' ? 2 : 1))) return Number();
+      break;
+    case Sort::kPoint:
       if (IsDigit(Peek(1))) return Number();
       break;
     default:
@@ -200,16 +209,15 @@ MofToken::Kind MofLexer::Character() {
 MofToken::Kind MofLexer::Number() {
   const size_t start = position_;
   if (Peek() == '-' || Peek() == '+') ++position_;
-  const size_t digits = position_;
   bool real = false;
   while (IsWordCharacter(Peek()) || Peek() == '.' ||
          ((Peek() == '+' || Peek() == '-') && real && (text_[position_ - 1] | 0x20) == 'e')) {
     real = real || Peek() == '.';
     ++position_;
   }
-  RequireLength(digits);
+  RequireLength(start);
   if (!NumberOf(Since(start))) {
-    Refuse(start, "'" + std::string(Since(digits)) + "' is not a number that fits 64 bits");
+    Refuse(start, "'" + std::string(Since(start)) + "' is not a number that fits 64 bits");
   }
   return real ? MofToken::Kind::kReal : MofToken::Kind::kInteger;
 }
@@ -247,29 +255,33 @@ void MofLexer::QuotedText(char quote, std::string* meaning) {
     if (meaning) *meaning += Since(piece);
     if (Peek() == quote) break;
     if (Peek() != '\\') Refuse(start, "the text is not closed on its line");
-    EscapedCharacter(meaning);
+    Escape(meaning);
   }
   ++position_;
 }
 
-void MofLexer::EscapedCharacter(std::string* meaning) {
-  const size_t start = position_++;
-  const char c = Peek();
-  if (!AtEnd()) ++position_;
-  const size_t place = kEscapes.find(c);
-  if (place != std::string_view::npos) {
-    if (meaning) *meaning += kEscaped[place];
-    return;
-  }
-  const size_t digits = position_;
-  while ((c == 'x' || c == 'X') && position_ < digits + 4 && IsHexDigit(Peek())) ++position_;
-  const std::string_view code = Since(digits);
-  if (code.empty()) Refuse(start, "MOF has no such escape");
-  if (!meaning) return;
+std::optional<uint16_t> MofLexer::EscapedUnit() {
+  if (Peek() != '\\' || (Peek(1) != 'x' && Peek(1) != 'X')) return std::nullopt;
+  const std::string_view digits = text_.substr(position_ + 2, 4);
   uint16_t unit = 0;
-  std::from_chars(code.data(), code.data() + code.size(), unit, 16);
-  const auto character = static_cast<OLECHAR>(unit);
-  *meaning += ToUtf8(WideView(&character, 1));
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), unit, 16);
+  if (error != std::errc()) return std::nullopt;
+  position_ = static_cast<size_t>(end - text_.data());
+  return unit;
+}
+
+void MofLexer::Escape(std::string* meaning) {
+  // Two of them may be one character.
+  WideText units;
+  while (const auto unit = EscapedUnit()) units += static_cast<OLECHAR>(*unit);
+  if (units.empty()) {
+    const size_t place = kEscapes.find(Peek(1));
+    if (place == std::string_view::npos) Refuse(position_, "MOF has no such escape");
+    position_ += 2;
+    if (meaning) *meaning += kEscaped[place];
+  } else if (meaning) {
+    *meaning += ToUtf8(units);
+  }
 }
 
 }  // namespace tqcim::host

@@ -1,6 +1,8 @@
 /// Words of a MOF text (DMTF DSP0004, annex A).
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -62,7 +64,9 @@ class MofLexer {
   /// null.
   void JoinedTexts(std::string* meaning);
   void QuotedText(char quote, std::string* meaning);
-  void EscapedCharacter(std::string* meaning);
+  void Escape(std::string* meaning);
+  /// Goes past one escape by code, if one stands here, and gives the code.
+  std::optional<uint16_t> EscapedUnit();
   /// Goes on to the quote that stands there, or to a backslash or the end of the line before it.
   void SkipPlainText(size_t quote);
   /// Each goes past the token that starts here, and tells its kind.

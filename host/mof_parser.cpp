@@ -51,9 +51,11 @@ class MofParser {
 
   void Declaration() {
     if (token_.Is('#')) return Directive();
-    if (token_.IsWord("instance")) return InstanceDeclaration();
     const Qualifiers qualifiers = QualifierList();
-    if (!token_.IsWord("class")) Want("a class, an instance or a directive");
+    if (token_.IsWord("instance")) return InstanceDeclaration();
+    if (!token_.IsWord("class")) {
+      Want(qualifiers.empty() ? "a class, an instance or a directive" : "a class or an instance");
+    }
     Skip();
     ClassDeclaration(qualifiers);
   }
@@ -158,11 +160,12 @@ class MofParser {
     Skip();
     if (!token_.IsWord("of")) Want("'of'");
     Skip();
-    ParsedInstance parsed{&source_, ExpectName("the name of a class"), {}};
+    ParsedInstance parsed{&source_, ExpectName("the name of a class"), {}, {}};
     if (token_.IsWord("as")) {
       Skip();
       Expect('$');
-      aliases_.emplace(ExpectName("the name of an alias"));
+      parsed.alias = ExpectName("the name of an alias");
+      aliases_.insert(parsed.alias);
     }
     Expect('{');
     while (!TakeIf('}')) {

@@ -21,6 +21,7 @@ struct ParsedClass {
 struct ParsedInstance {
   const MofSource* source = nullptr;
   std::string_view class_name;
+  std::string_view alias;  ///< without its $; empty for none
   std::vector<std::pair<std::string_view, Value>> assignments;
 };
 
@@ -31,9 +32,10 @@ struct MofDocument {
   QualifierLists qualifier_lists;  ///< those of the classes
 };
 
-/// Parses one MOF text: classes with properties and qualifiers, instances with aliases, compiler
-/// directives. Methods, embedded instances and qualifier declarations are refused. Throws MofError.
-/// What it declares is added to the document, which the source outlives.
+/// Parses one MOF text: classes with properties and qualifiers, instances with aliases, whose
+/// qualifiers are passed over, compiler directives. Methods, embedded instances and qualifier
+/// declarations are refused. Throws MofError. What it declares is added to the document, which the
+/// source outlives.
 void ParseMof(const MofSource& source, MofDocument& document);
 
 /// What a value stands for, from its text, which has been parsed before. An alias is the text

@@ -4,11 +4,19 @@
 #include "host/text.h"
 
 namespace tqcim::host {
+namespace {
+
+bool IsThisComputer(std::string_view server, std::string_view computer_name) {
+  if (server.empty() || server == "." || EqualNames(server, "localhost")) return true;
+  const std::string_view without_domain = server.substr(0, server.find('.'));
+  return EqualNames(without_domain.substr(0, MAX_COMPUTERNAME_LENGTH), computer_name);
+}
+
+}  // namespace
 
 bool IsInNamespace(const ObjectPath& path, std::string_view computer_name) {
-  const bool local =
-      path.server.empty() || path.server == "." || EqualNames(path.server, computer_name);
-  return local && (path.namespaces.empty() || EqualNames(path.Namespace(), kNamespace));
+  return IsThisComputer(path.server, computer_name) &&
+         (path.namespaces.empty() || EqualNames(path.Namespace(), kNamespace));
 }
 
 std::string ComputerName() {

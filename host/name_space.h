@@ -15,11 +15,12 @@ namespace tqcim::host {
 /// The one namespace that the host has.
 inline constexpr std::string_view kNamespace = "root\\cimv2\\vorn";
 
-/// Whether a path leads to the host's namespace of this computer: its server is missing, "." or
-/// `computer_name`, its namespaces are missing or those of kNamespace, in any case.
+/// Whether a path leads to the host's namespace of this computer: its server is missing, ".",
+/// "localhost" or the computer's own name, with or without a domain behind it, its namespaces are
+/// missing or those of kNamespace, in any case. `computer_name` is what ComputerName gives.
 bool IsInNamespace(const ObjectPath& path, std::string_view computer_name);
 
-/// The name of the computer.
+/// The name of the computer, which the platform cuts to 15 characters.
 std::string ComputerName();
 
 /// The namespace: GetObject gives class definitions, all else is refused.

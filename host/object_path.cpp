@@ -18,6 +18,12 @@ bool IsNameStart(char c) {
          static_cast<unsigned char>(c) >= 0x80;
 }
 
+/// Characters of UTF-8: what goes on with one begins with the bits 10.
+size_t CharactersOf(std::string_view utf8) {
+  return static_cast<size_t>(
+      std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
 /// Where the first name of a path ends.
 constexpr std::string_view kNameEnds = "\\/:.=\"' ";
 
@@ -39,7 +45,9 @@ class PathParser {
     return position_ + ahead < text_.size() ? text_[position_ + ahead] : '\0';
   }
   bool AtEnd() const { return position_ >= text_.size(); }
-  [[noreturn]] void Refuse(const std::string& reason) const { throw PathError(position_, reason); }
+  [[noreturn]] void Refuse(const std::string& reason) const {
+    throw PathError(CharactersOf(text_.substr(0, position_)), reason);
+  }
   bool TakeIf(char c) {
     if (AtEnd() || Peek() != c) return false;
     ++position_;
@@ -212,19 +220,6 @@ std::string RelativeText(const ObjectPath& path) {
     text += KeyText(key.value);
   }
   return text;
-}
-
-std::string FullText(const ObjectPath& path, bool with_server) {
-  std::string text;
-  if (with_server && !path.namespaces.empty()) {
-    text += "\\\\";
-    text += path.server.empty() ? "." : path.server;
-    text += '\\';
-  }
-  text += path.Namespace();
-  if (path.class_name.empty()) return text;
-  if (!text.empty()) text += ':';
-  return text + RelativeText(path);
 }
 
 }  // namespace tqcim::host

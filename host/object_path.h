@@ -11,7 +11,8 @@
 
 namespace tqcim::host {
 
-/// The text of a path that can't be read. `position` counts bytes from 0; `what()` is the reason.
+/// The text of a path that can't be read. `position` counts characters from 0; `what()` is the
+/// reason.
 class PathError : public std::runtime_error {
  public:
   PathError(size_t position, const std::string& reason)
@@ -51,8 +52,5 @@ ObjectPath ParseObjectPath(std::string_view text);
 
 /// CLASS.KEY="VALUE",..., keys in the path's order.
 std::string RelativeText(const ObjectPath& path);
-
-/// The path from the namespaces on, or from the server on (\\. without one), when `with_server`.
-std::string FullText(const ObjectPath& path, bool with_server);
 
 }  // namespace tqcim::host

@@ -75,36 +75,6 @@ HRESULT PathObject::SetText(ULONG mode, LPCWSTR text) {
   return S_OK;
 }
 
-HRESULT PathObject::GetText(LONG flags, ULONG* length, LPWSTR text) {
-  if (!path_) return kInvalidObjectPath;
-  switch (flags) {
-    case 0:
-      return CopyOut(FullText(*path_, false), length, text);
-    case WBEMPATH_GET_RELATIVE_ONLY:
-      return CopyOut(RelativeText(*path_), length, text);
-    case WBEMPATH_GET_SERVER_TOO:
-      return CopyOut(FullText(*path_, true), length, text);
-    default:
-      return kNotSupported;
-  }
-}
-
-HRESULT PathObject::GetServer(ULONG* length, LPWSTR name) {
-  if (!path_ || path_->server.empty()) return kInvalidObjectPath;
-  return CopyOut(path_->server, length, name);
-}
-
-HRESULT PathObject::GetNamespaceCount(ULONG* count) {
-  if (!count) return kInvalidParameter;
-  *count = path_ ? static_cast<ULONG>(path_->namespaces.size()) : 0;
-  return S_OK;
-}
-
-HRESULT PathObject::GetNamespaceAt(ULONG index, ULONG* length, LPWSTR name) {
-  if (!path_ || index >= path_->namespaces.size()) return kInvalidParameter;
-  return CopyOut(path_->namespaces[index], length, name);
-}
-
 HRESULT PathObject::GetClassName(ULONG* length, LPWSTR name) {
   if (!path_ || path_->class_name.empty()) return kInvalidObjectPath;
   return CopyOut(path_->class_name, length, name);

@@ -10,19 +10,14 @@
 
 namespace tqcim::host {
 
-/// The reading half of the parser. Lengths count characters with the terminator: a null buffer asks
-/// for the length, WBEM_E_BUFFER_TOO_SMALL leaves it behind. Texts that are asked for before a
-/// path was set, or that it doesn't have, give WBEM_E_INVALID_OBJECT_PATH.
+/// The class and the keys of a path. Lengths count characters with the terminator: a null buffer
+/// asks for the length, WBEM_E_BUFFER_TOO_SMALL leaves it behind.
 class PathObject final : public RefusingPath<ComObject<IWbemPath, IID_IWbemPath>> {
  public:
   /// `mode` has to be WBEMPATH_CREATE_ACCEPT_ALL. WBEM_E_INVALID_OBJECT_PATH for a text that can't
   /// be read, which leaves no path behind; an empty text succeeds and leaves none behind either.
   HRESULT STDMETHODCALLTYPE SetText(ULONG mode, LPCWSTR text) override;
-  /// `flags`: 0, WBEMPATH_GET_RELATIVE_ONLY or WBEMPATH_GET_SERVER_TOO.
-  HRESULT STDMETHODCALLTYPE GetText(LONG flags, ULONG* length, LPWSTR text) override;
-  HRESULT STDMETHODCALLTYPE GetServer(ULONG* length, LPWSTR name) override;
-  HRESULT STDMETHODCALLTYPE GetNamespaceCount(ULONG* count) override;
-  HRESULT STDMETHODCALLTYPE GetNamespaceAt(ULONG index, ULONG* length, LPWSTR name) override;
+  /// WBEM_E_INVALID_OBJECT_PATH without a class.
   HRESULT STDMETHODCALLTYPE GetClassName(ULONG* length, LPWSTR name) override;
   /// The keys of the path, as they are now; no keys for the path of a class.
   /// WBEM_E_INVALID_PARAMETER without a class.

@@ -1,4 +1,4 @@
-/// The results of WMI that the host answers with, and the names of all that a provider may return.
+/// The results of WMI that the host answers with, and results as text.
 #pragma once
 
 #include <string>

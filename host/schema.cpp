@@ -1,10 +1,6 @@
 #include "host/schema.h"
 
-#include <algorithm>
-#include <fstream>
-#include <iterator>
-#include <optional>
-#include <stdexcept>
+#include <utility>
 
 #include "embedded/schema.h"
 #include "host/class_builder.h"
@@ -12,19 +8,6 @@
 #include "host/text.h"
 
 namespace tqcim::host {
-namespace {
-
-std::string ReadFile(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  if (!file.is_open() || file.bad()) {
-    throw std::runtime_error(PathText(path) + ": the file cannot be read");
-  }
-  return text;
-}
-
-}  // namespace
-
 std::string PropertyDefinition::Description() const {
   return QualifierText(qualifiers, "Description");
 }
@@ -61,25 +44,6 @@ Schema Schema::Embedded() {
     sources.push_back({std::string(file.name), file.contents});
   }
   return FromSources(sources);
-}
-
-Schema Schema::FromFolder(const std::filesystem::path& folder) {
-  std::vector<std::filesystem::path> paths;
-  std::error_code error;
-  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end;
-       entry.increment(error)) {
-    if (entry->path().extension() == ".mof") paths.push_back(entry->path());
-  }
-  if (error) throw std::runtime_error(PathText(folder) + ": the folder cannot be read");
-  if (paths.empty()) throw std::runtime_error(PathText(folder) + ": there is no .mof file");
-  std::sort(paths.begin(), paths.end());
-  std::vector<std::string> files;
-  std::transform(paths.begin(), paths.end(), std::back_inserter(files), ReadFile);
-  std::vector<MofSource> sources;
-  for (size_t i = 0; i < paths.size(); ++i) sources.push_back({PathText(paths[i]), files[i]});
-  Schema schema = FromSources(sources);
-  schema.files_ = std::move(files);
-  return schema;
 }
 
 Schema Schema::FromSources(std::span<const MofSource> sources) {

@@ -1,7 +1,6 @@
 /// The CIM classes of the namespace, with inheritance resolved.
 #pragma once
 
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <span>
@@ -87,6 +86,7 @@ using ClassIndex = std::map<std::string_view, size_t, NameOrder>;
 /// An instance that MOF text declares ("instance of CLASS { ... };").
 struct DeclaredInstance {
   std::string_view class_name;
+  std::string_view alias;  ///< without its $; empty for none
   std::vector<std::pair<std::string_view, Value>> properties;
 };
 
@@ -95,10 +95,6 @@ class Schema {
  public:
   /// The schema that the program carries.
   static Schema Embedded();
-
-  /// Every *.mof file of a folder. Throws MofError for text that is not valid, std::runtime_error
-  /// where the folder or a file can't be read; the sentence names the file.
-  static Schema FromFolder(const std::filesystem::path& folder);
 
   /// The classes may stand in any order among the sources, whose texts outlive the schema. Throws
   /// MofError.
@@ -120,7 +116,6 @@ class Schema {
  private:
   Schema() = default;
 
-  std::vector<std::string> files_;  // what the names stand in, unless the texts are another's
   QualifierLists qualifier_lists_;
   std::vector<ClassDefinition> classes_;
   std::vector<DeclaredInstance> instances_;

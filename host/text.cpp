@@ -15,11 +15,6 @@ constexpr auto kAreEqualLetters = [](char x, char y) { return x == y || Lower(x)
 
 }  // namespace
 
-std::string PathText(const std::filesystem::path& path) {
-  const std::u8string text = path.u8string();
-  return std::string(text.begin(), text.end());
-}
-
 WideText ToWide(std::string_view utf8) {
   const int size = static_cast<int>(utf8.size());
   const int needed = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0);

@@ -1,7 +1,6 @@
 /// Text of the platform and of the rest of the host: UTF-16 and UTF-8, and CIM's caseless names.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -11,9 +10,6 @@ namespace tqcim::host {
 
 using WideText = std::basic_string<OLECHAR>;
 using WideView = std::basic_string_view<OLECHAR>;
-
-/// A file name for messages.
-std::string PathText(const std::filesystem::path& path);
 
 /// What is not valid in one form becomes U+FFFD in the other.
 WideText ToWide(std::string_view utf8);

@@ -34,8 +34,7 @@ void UseRegisteredProvider() {
 std::unique_ptr<ManagementHost> OpenHost() {
   UseOwnLibraries();
   try {
-    return ManagementHost::Open(
-        {.module = {}, .schema_folder = {}, .registered = registered_provider});
+    return ManagementHost::Open({.module = {}, .schema = {}, .registered = registered_provider});
   } catch (const HostError& error) {
     throw Failure(StatusOf(error.kind()), error.what());
   }

@@ -1,10 +1,14 @@
 #include "host/module.h"
 
 #include "host/management_host.h"
-#include "host/text.h"
 
 namespace tqcim::host {
 namespace {
+
+std::string PathText(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
 
 [[noreturn]] void Refuse(const std::filesystem::path& file, const std::string& what) {
   throw HostError(HostError::Kind::kModule,

@@ -2,6 +2,7 @@
 #include "host/activation.h"
 
 #include "tests/host/fake_host.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tqcim::host {
 namespace {
@@ -10,7 +11,7 @@ using Activation = FakeProviderTest;
 
 std::string RegistrationErrorOf(std::string_view schema) {
   try {
-    FindRegistration(*SchemaFromText(schema));
+    FindRegistration(*SchemaFromText(std::string(schema)));
   } catch (const HostError& error) {
     EXPECT_EQ(HostError::Kind::kSchema, error.kind());
     return error.what();
@@ -27,9 +28,7 @@ TEST_F(Activation, FollowsTheServicesOrderAndUndoesItBackwards) {
 }
 
 TEST(ActivationOfAModule, EndsWithItsUnloading) {
-  const SchemaFolder folder;
-  folder.Write("fake.mof", FakeSchema(FakeClsid::kWorks));
-  ManagementHost::Open({FakeModule(), folder.path()}).reset();
+  ManagementHost::Open({FakeModule(), FakeSchema(FakeClsid::kWorks)}).reset();
   const Module again(FakeModule());
   void* text = nullptr;
   ASSERT_EQ(S_OK, again.GetClassObject(ClsidOf(FakeClsid::kTrace), IID_IUnknown, &text));
@@ -65,47 +64,35 @@ TEST_F(Activation, AProviderWithoutInstancesIsTold) {
 }
 
 TEST_F(Activation, AModuleThatDoesNotKnowTheProviderIsTold) {
-  folder_.Write("fake.mof", FakeSchema(static_cast<FakeClsid>(9)));
-  const HostError error = ErrorOfOpening({FakeModule(), folder_.path()});
+  const HostError error = ErrorOfOpening(static_cast<FakeClsid>(9));
   EXPECT_EQ(HostError::Kind::kModule, error.kind());
   EXPECT_STREQ("the provider module gives no class factory: E_FAIL (0x80004005)", error.what());
 }
 
 TEST_F(Activation, AMissingModuleIsToldByName) {
-  folder_.Write("fake.mof", FakeSchema(FakeClsid::kWorks));
-  const auto missing = folder_.path() / "missing-module";
-  const HostError error = ErrorOfOpening({missing, folder_.path()});
+  const auto missing = ProgramFolder() / "missing-module";
+  const HostError error = ErrorOfOpening({missing, FakeSchema(FakeClsid::kWorks)});
   EXPECT_EQ(HostError::Kind::kModule, error.kind());
   const std::string text = error.what();
   EXPECT_EQ(0u, text.find("the provider module cannot be loaded: " + missing.string()));
 }
 
 TEST_F(Activation, AFileThatIsNoModuleIsToldByName) {
-  folder_.Write("fake.mof", FakeSchema(FakeClsid::kWorks));
-  const auto file = folder_.path() / "fake.mof";
-  const std::string text = ErrorOfOpening({file, folder_.path()}).what();
+  const testing::TemporaryFolder folder;
+  const auto file = folder.Write("text", "no module");
+  const std::string text = ErrorOfOpening({file, FakeSchema(FakeClsid::kWorks)}).what();
   EXPECT_EQ(0u, text.find("the provider module cannot be loaded: " + file.string()));
 }
 
 TEST_F(Activation, AModuleWithoutTheFunctionsIsTold) {
-  folder_.Write("fake.mof", FakeSchema(FakeClsid::kWorks));
   const auto module = ProgramFolder() / module_without_functions_FILE;
-  const HostError error = ErrorOfOpening({module, folder_.path()});
+  const HostError error = ErrorOfOpening({module, FakeSchema(FakeClsid::kWorks)});
   EXPECT_EQ(HostError::Kind::kModule, error.kind());
   EXPECT_NE(std::string::npos, std::string(error.what()).find("DllGetClassObject"));
 }
 
-TEST_F(Activation, ASchemaThatIsNotValidIsToldWithItsPlace) {
-  folder_.Write("bad.mof", "class A {");
-  const HostError error = ErrorOfOpening({FakeModule(), folder_.path()});
-  EXPECT_EQ(HostError::Kind::kSchema, error.kind());
-  EXPECT_EQ((folder_.path() / "bad.mof").string() +
-                ":1:10: the type of a property or '}' should stand here, not the end of the text",
-            error.what());
-}
-
 TEST(ProviderRegistrationOfASchema, IsFoundByTheNameThatTheClassesGive) {
-  const auto registration = FindRegistration(*SchemaFromText(FakeSchema(FakeClsid::kTrace)));
+  const auto registration = FindRegistration(*FakeSchema(FakeClsid::kTrace));
   EXPECT_EQ("fake", registration.name);
   EXPECT_TRUE(IsEqualGUID(ClsidOf(FakeClsid::kTrace), registration.clsid));
 }
@@ -113,7 +100,7 @@ TEST(ProviderRegistrationOfASchema, IsFoundByTheNameThatTheClassesGive) {
 TEST(ProviderRegistrationOfASchema, MustBeCompleteAndTheOnlyOne) {
   const std::string served = "[Provider(\"p\")] class A {}; ";
   const std::string provider =
-      "instance of __Win32Provider { Name = \"p\"; "
+      "instance of __Win32Provider as $P { Name = \"p\"; "
       "CLSID = \"{00000001-0000-0000-0000-000000000000}\"; }; ";
   EXPECT_EQ("the schema cannot be served: none of its classes names a provider",
             RegistrationErrorOf("class A {};"));
@@ -131,8 +118,35 @@ TEST(ProviderRegistrationOfASchema, MustBeCompleteAndTheOnlyOne) {
   EXPECT_EQ(incomplete, RegistrationErrorOf(served + provider));
   EXPECT_EQ(incomplete,
             RegistrationErrorOf(served + provider +
-                                "instance of __InstanceProviderRegistration { SupportsGet = TRUE; "
-                                "SupportsEnumeration = FALSE; };"));
+                                "instance of __InstanceProviderRegistration { Provider = $P; "
+                                "SupportsGet = TRUE; SupportsEnumeration = FALSE; };"));
+}
+
+class RegistrationsOfTwoProviders : public ::testing::Test {
+ protected:
+  static std::string Registration(const std::string& provider, const std::string& supports) {
+    return "instance of __InstanceProviderRegistration { Provider = " + provider +
+           "; SupportsGet = " + supports + "; SupportsEnumeration = TRUE; }; ";
+  }
+
+  const std::string providers_ =
+      "[Provider(\"p\")] class A {}; "
+      "instance of __Win32Provider as $Other { Name = \"q\"; }; "
+      "instance of __Win32Provider as $Own { Name = \"p\"; "
+      "CLSID = \"{00000001-0000-0000-0000-000000000000}\"; }; ";
+  const std::string incomplete_ =
+      "the schema cannot be served: provider p is not registered to get and to enumerate instances";
+};
+
+TEST_F(RegistrationsOfTwoProviders, AnothersDoesNotStandForThisOnes) {
+  const std::string others = Registration("$Other", "TRUE");
+  EXPECT_EQ(incomplete_, RegistrationErrorOf(providers_ + others));
+  EXPECT_EQ(incomplete_, RegistrationErrorOf(providers_ + others + Registration("$Own", "FALSE")));
+}
+
+TEST_F(RegistrationsOfTwoProviders, AnothersIsPassedOver) {
+  EXPECT_EQ("no error", RegistrationErrorOf(providers_ + Registration("$Other", "FALSE") +
+                                            Registration("$Own", "TRUE")));
 }
 
 }  // namespace

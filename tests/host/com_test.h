@@ -6,9 +6,9 @@
 #include <cstring>
 #include <initializer_list>
 #include <memory>
+#include <string>
 
 #include "host/class_object.h"
-#include "host/refused_puts.h"
 
 namespace tqcim::host {
 
@@ -21,26 +21,33 @@ inline constexpr HRESULT kBadNamespace = static_cast<HRESULT>(0x8004100E);
 inline constexpr HRESULT kBadPath = static_cast<HRESULT>(0x8004103A);
 inline constexpr HRESULT kTooSmall = static_cast<HRESULT>(0x8004103C);
 
-/// A schema from one MOF text.
-inline std::shared_ptr<const Schema> SchemaFromText(std::string_view text) {
-  const MofSource source{"test.mof", text};
-  return std::make_shared<const Schema>(Schema::FromSources({&source, 1}));
+/// A schema from one MOF text, which it keeps.
+inline std::shared_ptr<const Schema> SchemaFromText(std::string text) {
+  struct SchemaAndText {
+    explicit SchemaAndText(std::string kept) : text(std::move(kept)) {}
+    std::string text;
+    MofSource source{"test.mof", text};
+    Schema schema = Schema::FromSources({&source, 1});
+  };
+  const auto both = std::make_shared<const SchemaAndText>(std::move(text));
+  return {both, &both->schema};
 }
 
 /// A test after which no COM object of the host may be alive.
 class HostObjectsTest : public ::testing::Test {
  protected:
-  HostObjectsTest() { RefusedPuts::Clear(); }
-  ~HostObjectsTest() override {
-    RefusedPuts::Clear();
-    EXPECT_EQ(0, LiveObject::Count());
-  }
+  ~HostObjectsTest() override { EXPECT_EQ(0, LiveObject::Count()); }
 };
 
 inline Com<IWbemClassObject> Spawn(IWbemClassObject& definition) {
   IWbemClassObject* instance = nullptr;
   EXPECT_EQ(S_OK, definition.SpawnInstance(0, &instance));
   return Com<IWbemClassObject>(instance);
+}
+
+/// What the host's own object holds.
+inline Instance InstanceBehind(const Com<IWbemClassObject>& object) {
+  return ClassObject::Behind(object.get())->ToInstance();
 }
 
 /// VARIANTs as a provider makes them. All members of a VARIANT's union begin at one place.

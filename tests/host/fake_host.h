@@ -8,7 +8,6 @@
 #include "host/module.h"
 #include "tests/host/com_test.h"
 #include "tests/host/fake_provider.h"
-#include "tests/host/schema_folder.h"
 
 namespace tqcim::host {
 
@@ -17,7 +16,7 @@ inline std::filesystem::path FakeModule() {
 }
 
 /// The schema of the fake provider's classes, registered under one of its CLSIDs.
-inline std::string FakeSchema(FakeClsid which) {
+inline std::shared_ptr<const Schema> FakeSchema(FakeClsid which) {
   const std::string clsid =
       "{0000000" + std::to_string(static_cast<ULONG>(which)) + "-1234-5678-0001-020304050607}";
   std::string schema =
@@ -32,7 +31,7 @@ inline std::string FakeSchema(FakeClsid which) {
     schema +=
         std::string("[Dynamic, Provider(\"fake\")] class Fake_") + name + " : Fake_Base {};\n";
   }
-  return schema;
+  return SchemaFromText(schema);
 }
 
 /// Tests over the fake provider. The module is held for the length of the test, so that its trace
@@ -40,8 +39,7 @@ inline std::string FakeSchema(FakeClsid which) {
 class FakeProviderTest : public HostObjectsTest {
  protected:
   std::unique_ptr<ManagementHost> Open(FakeClsid which = FakeClsid::kWorks) {
-    folder_.Write("fake.mof", FakeSchema(which));
-    return ManagementHost::Open({FakeModule(), folder_.path()});
+    return ManagementHost::Open({FakeModule(), FakeSchema(which)});
   }
 
   HostError ErrorOfOpening(const HostOptions& options) {
@@ -54,8 +52,7 @@ class FakeProviderTest : public HostObjectsTest {
     return HostError(HostError::Kind::kPlatform, "");
   }
   HostError ErrorOfOpening(FakeClsid which) {
-    folder_.Write("fake.mof", FakeSchema(which));
-    return ErrorOfOpening({FakeModule(), folder_.path()});
+    return ErrorOfOpening({FakeModule(), FakeSchema(which)});
   }
 
   std::string Trace() const {
@@ -64,7 +61,6 @@ class FakeProviderTest : public HostObjectsTest {
     return static_cast<const char*>(text);
   }
 
-  SchemaFolder folder_;
   Module module_{FakeModule()};
 };
 

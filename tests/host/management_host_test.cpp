@@ -107,15 +107,12 @@ TEST_F(ManagementHostTest, ASinkThatTheProviderKeepsReachesNobodyLater) {
   EXPECT_NE(std::string::npos, Trace().find("late 1\n"));
 }
 
-TEST_F(ManagementHostTest, RefusedPutsAreRecordedAndTheRestIsDelivered) {
-  EXPECT_EQ((std::vector<std::string>{"Fake_RefusedPuts.Name=\"x\""}),
-            Enumerate("Fake_RefusedPuts").paths);
-  const auto refused = RefusedPuts::All();
-  ASSERT_EQ(2u, refused.size());
-  EXPECT_EQ("Missing", refused[0].property);
-  EXPECT_EQ(static_cast<HRESULT>(0x80041002), refused[0].result);
-  EXPECT_EQ("Number", refused[1].property);
-  EXPECT_EQ(static_cast<HRESULT>(0x80041005), refused[1].result);
+TEST_F(ManagementHostTest, InstancesTellWhichPutsTheSchemaRefused) {
+  std::vector<Instance> instances;
+  host_->Enumerate("Fake_RefusedPuts", [&](Instance instance) { instances.push_back(instance); });
+  ASSERT_EQ(1u, instances.size());
+  EXPECT_EQ("Fake_RefusedPuts.Name=\"x\"", instances[0].Path());
+  EXPECT_EQ((std::vector<std::string>{"Missing", "Number"}), instances[0].refused_puts);
 }
 
 TEST_F(ManagementHostTest, WhatTheCallbackThrowsStopsTheEnumeration) {
@@ -156,6 +153,8 @@ TEST_F(ManagementHostTest, BadPathsAreRefusedWithTheirPlace) {
   EXPECT_STREQ("object path 'Fake_Two.Name=\"x', character 15: the quotes are not closed",
                error.what());
   EXPECT_STREQ("object path '', character 1: it is empty", ErrorOfGet("").what());
+  EXPECT_STREQ("object path 'Fake_Two.\xC3\xA4\xC3\xA4='', character 13: the quotes are not closed",
+               ErrorOfGet("Fake_Two.\xC3\xA4\xC3\xA4='").what());
   EXPECT_STREQ(
       "object path 'root\\cimv2:Fake_Two' leads out of the namespace root\\cimv2\\vorn of this "
       "computer",
@@ -163,6 +162,20 @@ TEST_F(ManagementHostTest, BadPathsAreRefusedWithTheirPlace) {
   EXPECT_EQ(Kind::kBadPath, ErrorOfGet("\\\\elsewhere\\root\\cimv2\\vorn:Fake_Two").kind());
   EXPECT_STREQ("object path 'root\\cimv2\\vorn' names no class",
                ErrorOfGet("root\\cimv2\\vorn").what());
+}
+
+TEST_F(ManagementHostTest, AThreadOfASingleThreadedApartmentIsRefused) {
+  std::thread([&] {
+    EXPECT_EQ(S_OK, CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED));
+    const HostError error = ErrorOfGet("Fake_Two.Name=\"a\"");
+    EXPECT_EQ(Kind::kPlatform, error.kind());
+    EXPECT_STREQ(
+        "the thread cannot enter COM's multithreaded apartment: RPC_E_CHANGED_MODE "
+        "(0x80010106)",
+        error.what());
+    EXPECT_THROW(Enumerate("Fake_Two"), HostError);
+    CoUninitialize();
+  }).join();
 }
 
 TEST_F(ManagementHostTest, ManyThreadsAskAtOnce) {

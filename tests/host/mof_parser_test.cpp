@@ -103,6 +103,8 @@ TEST(MofParser, ReadsDefaultValuesOfEveryKind) {
   EXPECT_EQ(Value(-2.5), DefaultOf("real64 P = -2.5"));
   EXPECT_EQ(Value(1500.0), DefaultOf("real32 P = 1.5e+3"));
   EXPECT_EQ(Value(2.0), DefaultOf("real32 P = 2"));
+  EXPECT_EQ(Value(-0.5), DefaultOf("real32 P = -.5"));
+  EXPECT_EQ(Value(0.25), DefaultOf("real64 P = +.25"));
   EXPECT_EQ(Value(true), DefaultOf("boolean P = TRUE"));
   EXPECT_EQ(Value(false), DefaultOf("boolean P = false"));
   EXPECT_EQ(Value(uint64_t{65}), DefaultOf("char16 P = 'A'"));
@@ -118,6 +120,8 @@ TEST(MofParser, ReadsEscapesInTexts) {
   EXPECT_EQ(Value("a\"b\\c\td\r\n"), DefaultOf(R"(string P = "a\"b\\c\td\r\n")"));
   EXPECT_EQ(Value("\xC3\xA9x"), DefaultOf(R"(string P = "\x00E9x")"));
   EXPECT_EQ(Value("\xC3\xA9"), DefaultOf("string P = \"\xC3\xA9\""));
+  EXPECT_EQ(Value("a\xF0\x9F\x98\x80z"), DefaultOf(R"(string P = "a\xD83D\xDE00z")"));
+  EXPECT_EQ(Value("A\xEF\xBF\xBD\nB"), DefaultOf(R"(string P = "\X41\xD83D\n\x42")"));
 }
 
 TEST(MofParser, SkipsCommentsBlanksAndDirectives) {
@@ -143,6 +147,13 @@ TEST(MofParser, ReadsInstancesWithAliases) {
   EXPECT_EQ(Value("$P"), document.instances[1].assignments[0].second);
 }
 
+TEST(MofParser, PassesOverTheQualifiersOfAnInstance) {
+  const MofDocument document = Parse("[Description(\"one\")] instance of A as $One { P = 1; };");
+  ASSERT_EQ(1u, document.instances.size());
+  EXPECT_EQ("A", document.instances[0].class_name);
+  EXPECT_EQ("One", document.instances[0].alias);
+}
+
 TEST(MofParser, NamesThePlaceAndTheReasonOfAnError) {
   const std::pair<const char*, const char*> errors[] = {
       {"class A {\n  uint17 P;\n};", "x.mof:2:3: uint17 is not a CIM type"},
@@ -158,8 +169,9 @@ TEST(MofParser, NamesThePlaceAndTheReasonOfAnError) {
       {"[Note{1, 0x}] class A {};", "x.mof:1:10: '0x' is not a number that fits 64 bits"},
       {"[Note($Q)] class A {};", "x.mof:1:8: alias $Q is not declared"},
       {"[Key(] class A {};", "x.mof:1:6: a value should stand here, not ']'"},
-      {"[Key] instance of A {};",
-       "x.mof:1:7: a class, an instance or a directive should stand here, not 'instance'"},
+      {"[Key] #pragma autorecover", "x.mof:1:7: a class or an instance should stand here, not '#'"},
+      {"struct A {};",
+       "x.mof:1:1: a class, an instance or a directive should stand here, not 'struct'"},
       {"class A { string P; sint8 p; };", "x.mof:1:27: property p stands twice"},
       {"class A { uint8 P = 256; };", "x.mof:1:21: the value is not of the type of P"},
       {"class A { sint8 P = -129; };", "x.mof:1:21: the value is not of the type of P"},
@@ -170,6 +182,10 @@ TEST(MofParser, NamesThePlaceAndTheReasonOfAnError) {
       {"class A { boolean P = 1; };", "x.mof:1:23: the value is not of the type of P"},
       {"class A { string P = 18446744073709551616; };",
        "x.mof:1:22: '18446744073709551616' is not a number that fits 64 bits"},
+      {"class A { sint64 P = -9223372036854775809; };",
+       "x.mof:1:22: '-9223372036854775809' is not a number that fits 64 bits"},
+      {"class A { real32 P = -..5; };", "x.mof:1:22: a character that MOF has no use for"},
+      {"class A { string P = \"\\x41\\xg\"; };", "x.mof:1:27: MOF has no such escape"},
       {"class A { uint8 P = 0x; };", "x.mof:1:21: '0x' is not a number that fits 64 bits"},
       {"class A { real32 P = 1.5x; };", "x.mof:1:22: '1.5x' is not a number that fits 64 bits"},
       {"class A { uint8 P[] = {NULL}; };", "x.mof:1:24: an array holds no null"},

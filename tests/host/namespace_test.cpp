@@ -15,11 +15,6 @@ class NamespaceTest : public HostObjectsTest {
     object_ = Com(object);
     return result;
   }
-  std::string ClassOfObject() {
-    OwnedVariant name;
-    EXPECT_EQ(S_OK, object_->Get(OLESTR("__CLASS"), 0, &name, nullptr, nullptr));
-    return ToUtf8(V_BSTR(&name));
-  }
   HRESULT Connect(const OLECHAR* resource) {
     const Com<Locator> locator(new Locator(name_space_));
     const Bstr text(resource);
@@ -43,7 +38,7 @@ TEST_F(NamespaceTest, GivesDefinitionsInAnyCaseUnderTheDeclaredName) {
        {OLESTR("VORN_Thing"), OLESTR("vorn_thing"), OLESTR("\\\\.\\ROOT\\CimV2\\Vorn:VORN_THING"),
         OLESTR("root\\cimv2\\vorn:VORN_Thing")}) {
     ASSERT_EQ(S_OK, GetClass(path)) << ToUtf8(path);
-    EXPECT_EQ("VORN_Thing", ClassOfObject());
+    EXPECT_EQ("VORN_Thing", InstanceBehind(object_).definition->name);
   }
 }
 
@@ -105,7 +100,25 @@ TEST_F(NamespaceTest, LocatorConnectsInAnyCaseWithAndWithoutServer) {
   EXPECT_EQ(S_OK, Connect(OLESTR("ROOT\\cimv2\\VORN")));
   EXPECT_EQ(S_OK, Connect(OLESTR("\\\\.\\root\\cimv2\\vorn")));
   EXPECT_EQ(S_OK, Connect(OLESTR("//./root/cimv2/vorn")));
+  EXPECT_EQ(S_OK, Connect(OLESTR("\\\\localhost\\root\\cimv2\\vorn")));
   EXPECT_EQ(S_OK, Connect(ToWide("\\\\" + ComputerName() + "\\root\\cimv2\\vorn").c_str()));
+}
+
+TEST(Server, OfAPathIsThisComputerUnderAnyOfItsNames) {
+  const auto is_local = [](const std::string& server, std::string_view computer_name) {
+    return IsInNamespace(ParseObjectPath("\\\\" + server + "\\root\\cimv2\\vorn"), computer_name);
+  };
+  for (const char* server : {".", "localhost", "LocalHost", "BUILD-SERVER-01", "build-server-01",
+                             "build-server-01.example.org"}) {
+    EXPECT_TRUE(is_local(server, "BUILD-SERVER-01")) << server;
+  }
+  EXPECT_TRUE(is_local("build-server-0123", "BUILD-SERVER-01")) << "cut by the platform";
+  EXPECT_TRUE(is_local("build-server-0123.example.org", "BUILD-SERVER-01"));
+  for (const char* server : {"localhost.example.org", "BUILD-SERVER-0", "BUILD-SERVER-02",
+                             "example.BUILD-SERVER-01", "BUILD-SERVER-0.1"}) {
+    EXPECT_FALSE(is_local(server, "BUILD-SERVER-01")) << server;
+  }
+  EXPECT_FALSE(is_local("HOST2", "HOST"));
 }
 
 TEST_F(NamespaceTest, LocatorRefusesEveryOtherNamespace) {

@@ -12,19 +12,7 @@ constexpr HRESULT kCancelled = static_cast<HRESULT>(0x80041032);
 constexpr HRESULT kNotNow = static_cast<HRESULT>(0x8004101D);
 
 /// An instance that another implementation has made.
-class ForeignObject final
-    : public RefusingClassObject<ComObject<IWbemClassObject, IID_IWbemClassObject>> {
- public:
-  HRESULT STDMETHODCALLTYPE Get(LPCWSTR, LONG, VARIANT*, CIMTYPE*, LONG*) override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE Put(LPCWSTR, LONG, VARIANT*, CIMTYPE) override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE GetNames(LPCWSTR, LONG, VARIANT*, SAFEARRAY**) override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE BeginEnumeration(LONG) override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE Next(LONG, BSTR*, VARIANT*, CIMTYPE*, LONG*) override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE EndEnumeration() override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE Clone(IWbemClassObject**) override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE SpawnInstance(LONG, IWbemClassObject**) override { return S_OK; }
-  HRESULT STDMETHODCALLTYPE GetPropertyOrigin(LPCWSTR, BSTR*) override { return S_OK; }
-};
+using ForeignObject = RefusingClassObject<ComObject<IWbemClassObject, IID_IWbemClassObject>>;
 
 class ResultSinkTest : public HostObjectsTest {
  protected:

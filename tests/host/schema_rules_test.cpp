@@ -3,7 +3,6 @@
 
 #include "host/mof_lexer.h"
 #include "host/schema.h"
-#include "tests/host/schema_folder.h"
 
 namespace tqcim::host {
 namespace {
@@ -127,44 +126,6 @@ TEST(SchemaRules, AKeyMayBeDeclaredAgain) {
   const Schema schema =
       FromText("class A { [Key] string P; };\nclass B : A { [Key, Override(\"P\")] string P; };");
   EXPECT_TRUE(schema.Find("B")->Find("P")->key);
-}
-
-std::string FolderErrorOf(const std::filesystem::path& folder) {
-  try {
-    Schema::FromFolder(folder);
-  } catch (const std::runtime_error& error) {
-    return error.what();
-  }
-  return "no error";
-}
-
-TEST(SchemaInAFolder, IsReadByFileNameAndOnlyMofFiles) {
-  const SchemaFolder folder;
-  folder.Write("b.mof", "class B : A {};");
-  folder.Write("a.mof", "class A {};");
-  folder.Write("notes.txt", "not MOF");
-  const Schema schema = Schema::FromFolder(folder.path());
-  ASSERT_EQ(2u, schema.Classes().size());
-  EXPECT_EQ("A", schema.Classes()[0].name);
-  EXPECT_EQ("B", schema.Classes()[1].name);
-}
-
-TEST(SchemaInAFolder, ErrorsNameTheFile) {
-  const SchemaFolder folder;
-  folder.Write("bad.mof", "class A {\n  uint17 P;\n};");
-  EXPECT_EQ((folder.path() / "bad.mof").string() + ":2:3: uint17 is not a CIM type",
-            FolderErrorOf(folder.path()));
-}
-
-TEST(SchemaInAFolder, WithoutMofFilesIsRefused) {
-  const SchemaFolder folder;
-  EXPECT_EQ(folder.path().string() + ": there is no .mof file", FolderErrorOf(folder.path()));
-}
-
-TEST(SchemaInAFolder, ThatDoesNotExistIsRefused) {
-  const SchemaFolder folder;
-  const std::filesystem::path missing = folder.path() / "missing";
-  EXPECT_EQ(missing.string() + ": the folder cannot be read", FolderErrorOf(missing));
 }
 
 }  // namespace

@@ -154,6 +154,42 @@ TEST(ShippedSchema, ClassesStandAfterTheirSuperclasses) {
   }
 }
 
+TEST(ShippedSchema, ReferencesPointToItsClasses) {
+  for (const ClassDefinition& definition : Shipped().Classes()) {
+    for (const PropertyDefinition& property : definition.declared) {
+      EXPECT_EQ(property.type == CimType::kReference,
+                Shipped().Find(property.reference_class) != nullptr)
+          << definition.name << "." << property.name;
+    }
+  }
+}
+
+TEST(ShippedSchema, ReferencesStandInAssociationsWhichHaveTwo) {
+  for (const ClassDefinition& definition : Shipped().Classes()) {
+    const auto references = std::ranges::count_if(definition.properties, [](const auto* property) {
+      return property->type == CimType::kReference;
+    });
+    if (definition.association) {
+      EXPECT_GE(references, 2) << definition.name;
+    } else {
+      // Its antecedent is a bare name.
+      EXPECT_EQ(definition.name == "VORN_AssociatedSystemPCData" ? 1 : 0, references)
+          << definition.name;
+    }
+  }
+}
+
+TEST(ShippedSchema, OverrideStandsAtWhatIsDeclaredAgainAndNamesIt) {
+  for (const ClassDefinition& definition : Shipped().Classes()) {
+    const ClassDefinition* superclass = Shipped().Find(definition.superclass);
+    for (const PropertyDefinition& property : definition.declared) {
+      const bool again = superclass && superclass->Find(property.name);
+      EXPECT_EQ(again ? property.name : "", QualifierText(property.qualifiers, "Override"))
+          << definition.name << "." << property.name;
+    }
+  }
+}
+
 TEST(ShippedSchema, CarriesCodesAtTheirFullWidth) {
   const std::pair<const char*, const char*> uint32_properties[] = {
       {"CIM_Processor", "Family"},         {"CIM_Processor", "UpgradeMethod"},

@@ -41,9 +41,10 @@ std::string Facts(const host::ClassDefinition& definition, const ClassNotes& not
   for (const auto& property : definition.properties) {
     if (property->key) keys.push_back(property->name);
   }
+  const std::string_view superclass = definition.superclass;
   return "| | |\n|---|---|\n| kind | " + Kind(definition) + " |\n| superclass | " +
-         Code(definition.superclass) + " |\n| keys | " + CodeList(keys) + " |\n| store objects | " +
-         CodeList({notes.objects.begin(), notes.objects.end()}) + " |\n";
+         (superclass.empty() ? "none" : Code(superclass)) + " |\n| keys | " + CodeList(keys) +
+         " |\n| store objects | " + CodeList({notes.objects.begin(), notes.objects.end()}) + " |\n";
 }
 
 std::string PropertyRows(const host::ClassDefinition& definition, const ClassNotes& notes) {

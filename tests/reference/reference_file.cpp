@@ -35,7 +35,8 @@ std::filesystem::path RepositoryPath(const std::filesystem::path& relative) {
 void ExpectReferenceFile(const std::filesystem::path& relative, const std::string& text) {
   const std::filesystem::path path = RepositoryPath(relative);
   if (store::EnvironmentText("TQCIM_UPDATE_REFERENCES")) {
-    std::ofstream(path, std::ios::binary) << text;
+    std::ofstream file(path, std::ios::binary);
+    ASSERT_TRUE(file << text << std::flush) << path.string() << " cannot be written";
     GTEST_SKIP() << "wrote " << relative.generic_string();
   }
   const std::string expected = ContentsOf(path);

@@ -5,17 +5,6 @@
 #include <windef.h>
 #include <winerror.h>
 
-/// @name Atomic counters
-/// Both return the new value and order all memory accesses.
-/// @{
-inline LONG InterlockedIncrement(LONG volatile* value) {
-  return __atomic_add_fetch(value, 1, __ATOMIC_SEQ_CST);
-}
-inline LONG InterlockedDecrement(LONG volatile* value) {
-  return __atomic_sub_fetch(value, 1, __ATOMIC_SEQ_CST);
-}
-/// @}
-
 /// @name Narrow and wide text
 /// @{
 

@@ -18,7 +18,7 @@ std::string LibraryFile() {
 
 int main(int, char** values) {
   using namespace tqcim::host;
-  const auto host = ManagementHost::Open({.module = values[1], .schema_folder = {}});
+  const auto host = ManagementHost::Open({.module = values[1], .schema = {}});
   int count = 0;
   host->Enumerate("VORN_System", [&](const Instance&) { ++count; });
   char path[1024] = {};
