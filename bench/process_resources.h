@@ -5,7 +5,7 @@
 
 namespace tqcim::bench {
 
-/// The memory of the process that is in use: resident natively, private on Windows.
+/// The memory of the process that is resident.
 size_t MemoryInUse();
 /// Open files natively, handles on Windows.
 size_t OpenHandles();

@@ -141,5 +141,10 @@ int main(int count, char** arguments) {
     std::fprintf(stderr, "usage: soak [REQUESTS]\n");
     return 2;
   }
-  return tqcim::bench::RunSoak(requests);
+  try {
+    return tqcim::bench::RunSoak(requests);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "soak: %s\n", error.what());
+    return 1;
+  }
 }

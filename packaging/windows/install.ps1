@@ -43,7 +43,8 @@ function Set-LibraryPath {
         Write-Step "$PathValue is $Folder already"
         return
     }
-    if ($before) {
+    # Another version of this system is none that uninstall.ps1 is to bring back.
+    if ($before -and (Join-Path $before $Module) -ne (Get-RegisteredModule)) {
         Write-Step "keeping the old $PathValue, $before, as $SavedValue"
         Copy-RegistryValue $SharedKey $PathValue $SavedValue
     }
