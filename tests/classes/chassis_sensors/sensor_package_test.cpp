@@ -29,16 +29,6 @@ class SensorPackageTest : public SeveralChassisTest,
 
   HRESULT EnumerateClass() { return Enumerate(kName); }
 
-  /// "Chassis 2: 0" for the pair of that chassis and that sensor number.
-  Texts Pairs() const {
-    Texts pairs;
-    for (size_t i = 0; i < DeliveredCount(); ++i) {
-      pairs.push_back(KeyOf(Value(i, "Dependent"), "Tag") + ": " +
-                      KeyOf(Value(i, "Antecedent"), "DeviceID"));
-    }
-    return pairs;
-  }
-
   const char* const kName = GetParam().name;
   const uint16_t kType = GetParam().objectType;
 };

@@ -50,6 +50,16 @@ class SeveralChassisTest : public HandlerTest {
     return values;
   }
 
+  /// "Chassis 2: 240" for each pair delivered, in order: the chassis and the sensor's DeviceID.
+  Texts Pairs() const {
+    Texts pairs;
+    for (size_t i = 0; i < DeliveredCount(); ++i) {
+      pairs.push_back(KeyOf(Value(i, "Dependent"), "Tag") + ": " +
+                      KeyOf(Value(i, "Antecedent"), "DeviceID"));
+    }
+    return pairs;
+  }
+
  private:
   static std::u16string Named(std::u16string name, uint32_t oid) {
     const std::string digits = std::to_string(oid);

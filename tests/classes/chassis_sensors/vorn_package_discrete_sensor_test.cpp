@@ -18,16 +18,6 @@ class VornPackageDiscreteSensorTest : public SeveralChassisTest {
   }
 
   HRESULT EnumerateClass() { return Enumerate("VORN_PackageDiscreteSensor"); }
-
-  /// "Chassis 2: 240" for the pair of that chassis and that sensor.
-  Texts Pairs() const {
-    Texts pairs;
-    for (size_t i = 0; i < DeliveredCount(); ++i) {
-      pairs.push_back(KeyOf(Value(i, "Dependent"), "Tag") + ": " +
-                      KeyOf(Value(i, "Antecedent"), "DeviceID"));
-    }
-    return pairs;
-  }
 };
 
 TEST_F(VornPackageDiscreteSensorTest, PutsTheChassisThenTheSensor) {
