@@ -47,14 +47,10 @@ Instance ClassObject::ToInstance() const {
   instance.schema = schema_;
   instance.definition = &definition_;
   instance.properties.reserve(values_.size());
-  instance.put_order.reserve(put_order_.size());
   for (size_t i = 0; i < values_.size(); ++i) {
     const PropertyDefinition& property = *definition_.properties[i];
     instance.properties.push_back({property.name, property.type, property.array, property.key,
                                    put_[i], ToValue(values_[i], property)});
-  }
-  for (const size_t index : put_order_) {
-    instance.put_order.push_back(definition_.properties[index]->name);
   }
   instance.refused_puts = refused_puts_;
   return instance;
@@ -77,7 +73,6 @@ HRESULT ClassObject::Put(LPCWSTR name, LONG flags, VARIANT* value, CIMTYPE type)
   if (value && !StandsForNull(*value) && FAILED(VariantCopy(&copy, value))) return kOutOfMemory;
   values_[*index] = std::move(copy);
   put_[*index] = true;
-  put_order_.push_back(*index);
   return WBEM_S_NO_ERROR;
 }
 

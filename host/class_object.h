@@ -48,7 +48,6 @@ class ClassObject final
   Kind kind_;
   std::vector<OwnedVariant> values_;  // in the order of the definition's properties
   std::vector<bool> put_;
-  std::vector<size_t> put_order_;
   std::vector<std::string> refused_puts_;
 };
 

@@ -25,8 +25,7 @@ struct Property {
 struct Instance {
   std::shared_ptr<const Schema> schema;  ///< whose definition and names these are
   const ClassDefinition* definition = nullptr;
-  std::vector<Property> properties;         ///< every declared property, in the class's order
-  std::vector<std::string_view> put_order;  ///< names in the order in which the provider put them
+  std::vector<Property> properties;  ///< every declared property, in the class's order
   /// Names that the provider put and the schema refused: one that doesn't look at the result of a
   /// put loses the property without a word.
   std::vector<std::string> refused_puts;
