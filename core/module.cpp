@@ -34,6 +34,7 @@ void DetachModule() {
 }  // namespace tqcim
 
 STDAPI DllGetClassObject(REFCLSID rclsid, REFIID riid, void** ppv) {
+  *ppv = nullptr;
   // Every activation has always asked for this text, and left it: a small block, known and kept.
   LPOLESTR text = nullptr;
   StringFromCLSID(rclsid, &text);

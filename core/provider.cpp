@@ -24,6 +24,7 @@ tqcim_provider::tqcim_provider() {
 }
 
 tqcim_provider::~tqcim_provider() {
+  // First: once the counter has fallen, the module may be unloaded under the release.
   initialNamespace_.Release();
   --objectCounter;
 }

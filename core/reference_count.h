@@ -9,9 +9,10 @@ namespace tqcim {
 
 /// Counts from 0: the creator's QueryInterface takes the first reference.
 ///
-/// The increment is a plain read, add and write, not one atomic step, while the decrement is
-/// atomic: the management service adds references from one thread at a time and releases them from
-/// any.
+/// The decrement is one atomic step; the increment is a plain read, add and write, as it has always
+/// been here. It is right for as long as no other thread counts meanwhile: a release that falls
+/// into an increment is lost, and the object stays; of two increments at once one is lost, and the
+/// object goes too early.
 class ReferenceCount {
  public:
   /// The new count.

@@ -14,6 +14,7 @@ HRESULT Vorn_System::EnumerateInstances(IWbemClassObject* classDefinition, IWbem
   Instance instance(classDefinition);
   if (!instance) return instance.SpawnStatus();
   instance.Put(property::kStatus, Variant::Text(StatusToText(system.Status())));
+  // The short form, as clients know the system; `SystemName` of its devices is converted.
   instance.Put(property::kName, Variant::Text(ShortWideName(ComputerName())));
   instance.Put(property::kCreationClassName, Variant::Text(OLESTR("VORN_System")));
   return instance.Indicate(sink);

@@ -28,9 +28,7 @@ struct ThresholdSensorClass {
 HRESULT EnumerateThresholdSensors(const ThresholdSensorClass& sensorClass,
                                   IWbemClassObject* classDefinition, IWbemObjectSink* sink);
 
-/// Delivers the probe that the `DeviceID` key finds. The whole number counts as position in the
-/// first chassis: past its end the walk stops at the first probe of the next chassis, so that "105"
-/// gives probe "100". Clients rely on a lookup that never fails there.
+/// Delivers the probe that the `DeviceID` key finds, as GetByCursor reads it.
 HRESULT GetThresholdSensor(const ThresholdSensorClass& sensorClass,
                            IWbemClassObject* classDefinition, IWbemPathKeyList* keys,
                            IWbemObjectSink* sink);

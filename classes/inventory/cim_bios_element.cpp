@@ -1,5 +1,6 @@
 #include <ctime>
 
+#include "classes/inventory/firmware_states.h"
 #include "classes/inventory/handlers.h"
 #include "core/cim_datetime.h"
 #include "core/instance.h"
@@ -13,9 +14,6 @@ namespace {
 
 namespace bios = layout::bios;
 
-/// Software running, as CIM counts software states.
-constexpr int32_t kRunning = 4;
-constexpr int32_t kOtherOperatingSystem = 1;
 constexpr const OLECHAR* kSystemBios = OLESTR("System Bios");
 
 /// Midnight of the day that "month/day/year" names. A missing field stays 0; years above 1900 are

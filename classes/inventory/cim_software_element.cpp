@@ -1,3 +1,4 @@
+#include "classes/inventory/firmware_states.h"
 #include "classes/inventory/handlers.h"
 #include "classes/walks.h"
 #include "core/results.h"
@@ -7,10 +8,6 @@ namespace tqcim {
 namespace {
 
 namespace firmware = layout::firmware;
-
-/// Software running, as CIM counts software states.
-constexpr int32_t kRunning = 4;
-constexpr int32_t kOtherOperatingSystem = 1;
 
 void PutFirmwareProperties(Instance& instance, const DataObject& object, uint16_t) {
   instance.Put(OLESTR("Version"), Variant::Text(object[firmware::kVersion]));

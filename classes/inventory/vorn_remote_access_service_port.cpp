@@ -23,6 +23,7 @@ void PutPortProperties(Instance& instance, const DataObject& object) {
   }
   instance.Put(property::kCreationClassName, Variant::Text(OLESTR("Vorn_RemoteAccessServicePort")));
   instance.Put(property::kSystemCreationClassName, Variant::Text(property::kComputerSystem));
+  // The short form, as in `Name` of VORN_System: that of other devices is converted.
   instance.Put(property::kSystemName, Variant::Text(ShortWideName(ComputerName())));
   instance.Put(property::kName, Variant::Text(object[port::kName]));
   instance.Put(OLESTR("AccessInfoIPv4"), Variant::Text(object[port::kIpv4Address]));

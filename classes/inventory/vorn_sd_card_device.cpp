@@ -68,8 +68,7 @@ HRESULT Vorn_SDCardDevice::EnumerateInstances(IWbemClassObject* classDefinition,
   return status;
 }
 
-/// The first key counts, whatever its name, and is compared as text: "01" is no card. The walk goes
-/// on after a match.
+/// The first key counts, whatever its name, and is compared as text: "01" is no card.
 HRESULT Vorn_SDCardDevice::GetInstance(IWbemClassObject* classDefinition, IWbemPathKeyList* keys,
                                        IWbemObjectSink* sink) {
   const PathKey key = FirstKey(keys);

@@ -183,6 +183,8 @@ bool AddSharedDirectory() {
 int NTDelayLoadPutEnvSharedPath() {
   static bool done = false;
   if (done) return 1;
+  // Before the work, and without a lock: a thread that comes meanwhile goes on with the PATH that
+  // it finds.
   done = true;
   done = AddSharedDirectory();
   return done ? 1 : 0;

@@ -1,9 +1,10 @@
 /// Registration of the module as an in-process COM server, and its removal. The namespace and its
 /// classes are installed apart from the module; removal takes the namespace with it.
 
+#include <array>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <string>
 
 #include "core/module.h"
 #include "platform/com.h"
@@ -11,20 +12,25 @@
 namespace tqcim {
 namespace {
 
+/// Room for a class identifier, and for the path of its key. Registration takes no memory: it has
+/// no way to report that there is none.
+using RegistryText = std::array<char, 128>;
+
 /// The provider's class identifier in registry form: braces and upper-case digits.
-std::string ClsidText() {
-  constexpr int kTextSize = 128;
-  OLECHAR wide[kTextSize] = {};
-  StringFromGUID2(ProviderClsid(), wide, kTextSize);
-  char narrow[kTextSize] = {};
-  std::wcstombs(narrow, wide, kTextSize - 1);
-  return narrow;
+RegistryText ClsidText() {
+  RegistryText text{};
+  std::array<OLECHAR, text.size()> wide{};
+  StringFromGUID2(ProviderClsid(), wide.data(), static_cast<int>(wide.size()));
+  std::wcstombs(text.data(), wide.data(), text.size() - 1);
+  return text;
 }
 
 constexpr const char* kClsidFolder = "SOFTWARE\\CLASSES\\CLSID";
 
-std::string ClsidKeyPath() {
-  return std::string(kClsidFolder) + "\\" + ClsidText();
+RegistryText ClsidKeyPath() {
+  RegistryText path{};
+  std::snprintf(path.data(), path.size(), "%s\\%s", kClsidFolder, ClsidText().data());
+  return path;
 }
 
 void SetText(HKEY key, const char* name, const char* text) {
@@ -32,9 +38,9 @@ void SetText(HKEY key, const char* name, const char* text) {
                  static_cast<DWORD>(std::strlen(text) + 1));
 }
 
-void DeleteSubkey(const std::string& keyPath, const char* subkey) {
+void DeleteSubkey(const char* keyPath, const char* subkey) {
   HKEY key;
-  if (RegOpenKeyA(HKEY_LOCAL_MACHINE, keyPath.c_str(), &key) != ERROR_SUCCESS) return;
+  if (RegOpenKeyA(HKEY_LOCAL_MACHINE, keyPath, &key) != ERROR_SUCCESS) return;
   RegDeleteKeyA(key, subkey);
   RegCloseKey(key);
 }
@@ -67,7 +73,7 @@ STDAPI DllRegisterServer() {
 
   HKEY clsidKey = nullptr;
   HKEY serverKey = nullptr;
-  RegCreateKeyA(HKEY_LOCAL_MACHINE, ClsidKeyPath().c_str(), &clsidKey);
+  RegCreateKeyA(HKEY_LOCAL_MACHINE, ClsidKeyPath().data(), &clsidKey);
   SetText(clsidKey, nullptr, "");
   RegCreateKeyA(clsidKey, "InprocServer32", &serverKey);
   SetText(serverKey, nullptr, moduleFile);
@@ -81,8 +87,8 @@ STDAPI DllRegisterServer() {
 /// Reports success whatever the registry and the management service did.
 STDAPI DllUnregisterServer() {
   using namespace tqcim;
-  DeleteSubkey(ClsidKeyPath(), "InProcServer32");
-  DeleteSubkey(kClsidFolder, ClsidText().c_str());
+  DeleteSubkey(ClsidKeyPath().data(), "InProcServer32");
+  DeleteSubkey(kClsidFolder, ClsidText().data());
   RemoveNamespace();
   return S_OK;
 }

@@ -1,5 +1,6 @@
 #include "core/cim_datetime.h"
 
+#include "tests/support/environment.h"
 #include "tests/support/handler_test.h"
 #include "tests/support/time_zone.h"
 
@@ -50,9 +51,12 @@ TEST_F(CimDateTimeTest, EndsInTheOffsetInMinutesCutToFourCharacters) {
 }
 
 TEST_F(CimDateTimeTest, TheZoneOfTheEnvironmentIsReadEveryTime) {
-  EXPECT_EQ("20150314092653.000000+720", TextIn("FFF-12"));
-  EXPECT_EQ("20150314092653.000000-720", TextIn("GGG12"));
-  EXPECT_EQ("20150314092653.000000-210", TextIn("HHH3:30"));
+  const TimeZone zone("FFF-12");
+  EXPECT_EQ("20150314092653.000000+720", TextOf(Moment()));
+  SetEnvironment("TZ", "GGG12");
+  EXPECT_EQ("20150314092653.000000-720", TextOf(Moment()));
+  SetEnvironment("TZ", "HHH3:30");
+  EXPECT_EQ("20150314092653.000000-210", TextOf(Moment()));
 }
 
 TEST_F(CimDateTimeTest, WritesEveryFieldAtItsFullWidth) {

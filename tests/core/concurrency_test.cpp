@@ -1,11 +1,8 @@
 // Many threads at once ask one provider, as the management service does. The fakes share nothing
 // that orders the threads, so that ThreadSanitizer sees every race of the provider itself.
 #include <array>
-#include <memory>
-#include <string>
 #include <thread>
 
-#include "core/provider_requests.h"
 #include "tests/core/provider_fixture.h"
 
 namespace tqcim::testing {

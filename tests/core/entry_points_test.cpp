@@ -36,7 +36,9 @@ TEST_F(EntryPointsTest, GivesTheClassFactoryOfTheProvider) {
 TEST_F(EntryPointsTest, AnyOtherClassIsEFail) {
   for (const OLECHAR* text : {OLESTR("{5E3A9C17-4B2D-41F0-9A6E-2C7D81B0E4F4}"),
                               OLESTR("{00000000-0000-0000-0000-000000000000}")}) {
+    object = &something;
     EXPECT_EQ(Hr(0x80004005), DllGetClassObject(ClsidOf(text), IID_IClassFactory, &object));
+    EXPECT_EQ(nullptr, object);
   }
 }
 
@@ -50,6 +52,7 @@ TEST_F(EntryPointsTest, AFactoryThatFindsNoMemoryIsRefused) {
   const Fault noMemory({FaultKind::kAllocations, 0});
   EXPECT_EQ(Hr(0x8007000E),
             DllGetClassObject(ClsidOf(kProviderClsidText), IID_IClassFactory, &object));
+  EXPECT_EQ(nullptr, object);
 }
 
 TEST_F(EntryPointsTest, TheFactoryIsItsOwnIdentity) {

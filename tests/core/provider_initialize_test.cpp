@@ -51,6 +51,25 @@ TEST_F(ProviderInitializeTest, KeepsTheNamespaceUntilTheProviderGoes) {
   EXPECT_EQ(0, initialNamespace.References());
 }
 
+/// Notes how many providers are counted when it is released.
+class CountingNamespace final : public RefusingServices {
+ public:
+  CountingNamespace() : RefusingServices("a namespace") {}
+  ULONG STDMETHODCALLTYPE Release() override {
+    countedAtRelease = objectCounter;
+    return RefusingServices::Release();
+  }
+
+  LONG countedAtRelease = -1;
+};
+
+TEST_F(ProviderInitializeTest, TheNamespaceGoesWhileTheProviderIsStillCounted) {
+  CountingNamespace kept;
+  Initialize(&kept);
+  provider.Release();
+  EXPECT_EQ(1, kept.countedAtRelease);
+}
+
 TEST_F(ProviderInitializeTest, DoesNotReleaseAnEarlierNamespace) {
   FakeServices later;
   Initialize(&initialNamespace);

@@ -62,6 +62,7 @@ int32_t SMReadINIFileValue(const char* section, const char* key, uint32_t valueT
 
 /// Has no failure to tell.
 int32_t SMUCS2Strcmp(const OLECHAR* a, const OLECHAR* b) {
+  FakeStore::Installed().NoteComparison();
   while (*a && *a == *b) ++a, ++b;
   return (*a > *b) - (*a < *b);
 }

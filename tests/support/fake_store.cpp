@@ -156,6 +156,10 @@ void FakeStore::FreeSupport(void* block) {
   blocks_.TakeBack("SMFreeMem", {BlockKind::kSupportMemory}, block);
 }
 
+void FakeStore::NoteComparison() {
+  Note("compare");
+}
+
 void FakeStore::NoteConversion(const char* narrow) {
   Note("convert ", narrow);
 }

@@ -74,8 +74,8 @@ class FakeStore {
   uint32_t U32WhenFreed(uint32_t oid, uint32_t offset) const;
 
   /// From now on calls are noted: "object 7", "children 2/196", "text 80", "free", "allocate 26",
-  /// "free support", "convert NAME", "records 9", "record 9/0", "free record", "ini FILE [SECTION]
-  /// KEY".
+  /// "free support", "compare", "convert NAME", "records 9", "record 9/0", "free record", "ini FILE
+  /// [SECTION] KEY".
   void RecordCalls() { scripted_ = recording_ = true; }
   const std::vector<std::string>& Calls() const { return calls_; }
   /// @}
@@ -88,6 +88,7 @@ class FakeStore {
   void FreeGeneric(void* block);
   void* Allocate(uint32_t size);
   void FreeSupport(void* block);
+  void NoteComparison();
   void NoteConversion(const char* narrow);
   /// Both expect the OID where the log object has it.
   uint32_t CountRecords(const uint32_t* logOid);

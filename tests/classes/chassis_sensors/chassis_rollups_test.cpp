@@ -133,6 +133,15 @@ TEST_F(ChassisRollUpsTest, RedundancyIsThatOfTheFirstGroupWithMembers) {
   EXPECT_EQ("Stressed", Now("FanRedStatus"));
 }
 
+TEST_F(ChassisRollUpsTest, AGroupThatCannotBeReadIsPassedOverForTheNextWithMembers) {
+  AddChildren(2, 300, {4, 2, 3});
+  store.List(300, 21, {2100});
+  store.List(301, 21, {});
+  store.List(302, 21, {2100});
+  store.FailRead(300);
+  EXPECT_EQ("Stressed", Now("PsRedStatus"));
+}
+
 TEST_F(ChassisRollUpsTest, RedundancyIsAbsentWithoutAGroupThatHasMembers) {
   AddChildren(2, 300, {2});
   store.List(300, 21, {2100});

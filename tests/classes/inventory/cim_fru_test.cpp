@@ -1,3 +1,4 @@
+#include "tests/support/environment.h"
 #include "tests/support/handler_test.h"
 #include "tests/support/time_zone.h"
 
@@ -162,6 +163,15 @@ TEST_F(CimFruTest, TheFirstSecondOf1970IsADate) {
   store.Object(22).U64(24, 18001);
   Enumerate("CIM_FRU");
   EXPECT_EQ("19700101000001.000000-300", Value(1, "FRUManufacturingDateName"));
+}
+
+TEST_F(CimFruTest, ReadsTheTimeZoneAgainForEveryRequest) {
+  SetEnvironment("TZ", "BBB-2");
+  Enumerate("CIM_FRU");
+  SetEnvironment("TZ", "CCC-3");
+  Enumerate("CIM_FRU");
+  EXPECT_EQ("21200101020000.000000+120", Value(0, "FRUManufacturingDateName"));
+  EXPECT_EQ("21200101030000.000000+180", Value(2, "FRUManufacturingDateName"));
 }
 
 TEST_F(CimFruTest, ADateThatNoCalendarHasIsLeftOut) {

@@ -65,12 +65,14 @@ TEST_F(VornAssociatedSupplyPcAmpsTest, TheSuppliesOfLaterChassisAreNotAssociated
                                       "object 300",
                                       "free",
                                       "free",
+                                      "compare",
                                       "free",  //
                                       "children 1/17",
                                       "children 100/25",
                                       "object 301",
                                       "free",
                                       "free",
+                                      "compare",
                                       "free",  //
                                       "children 1/17",
                                       "children 100/25",
@@ -79,6 +81,7 @@ TEST_F(VornAssociatedSupplyPcAmpsTest, TheSuppliesOfLaterChassisAreNotAssociated
                                       "object 310",  //
                                       "free",
                                       "free",
+                                      "compare",
                                       "free",  //
                                       "children 1/17",
                                       "children 101/25",
