@@ -99,7 +99,8 @@ TEST(ManualPage, HasNoOptionThatTheProgramLacks) {
 /// What bash offers for the last of the words.
 std::set<std::string> Completions(const std::vector<std::string>& words) {
   const TemporaryFolder folder;
-  std::string script = ". '" TQCIM_REPOSITORY "/packaging/tqcim.bash-completion'\nCOMP_WORDS=(tqcim";
+  std::string script =
+      ". '" TQCIM_REPOSITORY "/packaging/tqcim.bash-completion'\nCOMP_WORDS=(tqcim";
   for (const std::string& word : words) script += " '" + word + "'";
   script += ")\nCOMP_CWORD=" + std::to_string(words.size()) + "\n_tqcim '" TQCIM_BUILD "/tqcim' '" +
             words.back() + "' '" + (words.size() < 2 ? "tqcim" : words[words.size() - 2]) +
