@@ -264,7 +264,8 @@ class CommandLine {
           ->required();
       AddSourceOptions(command, list_.source);
       AddFormatOption(command, list_.format);
-      command.add_flag("--full", list_.full, "no table: on a line every property there is")
+      command
+          .add_flag("--full", list_.full, "no table: one property on a line, null ones left out")
           ->disable_flag_override();
       Choose(command, list_);
     });
