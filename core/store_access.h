@@ -109,6 +109,16 @@ inline constexpr uint32_t kReadTries = 65'536;
 OidList ListChildren(uint32_t parentOid, uint16_t objectType);
 DataObject ReadObject(uint32_t oid);
 
+/// The first child of a type, or nothing, and the list that names it, held as long.
+struct FirstChild {
+  FirstChild(uint32_t parentOid, uint16_t type)
+      : list(ListChildren(parentOid, type)),
+        object(list.empty() ? DataObject() : ReadObject(list[0])) {}
+
+  OidList list;
+  DataObject object;
+};
+
 /// The `Status` text of an object status. Never null; a status beyond the known ones is "Stressed".
 const OLECHAR* StatusToText(uint32_t status);
 

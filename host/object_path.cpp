@@ -18,12 +18,6 @@ bool IsNameStart(char c) {
          static_cast<unsigned char>(c) >= 0x80;
 }
 
-/// Characters of UTF-8: what goes on with one begins with the bits 10.
-size_t CharactersOf(std::string_view utf8) {
-  return static_cast<size_t>(
-      std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-}
-
 /// Where the first name of a path ends.
 constexpr std::string_view kNameEnds = "\\/:.=\"' ";
 
@@ -46,7 +40,7 @@ class PathParser {
   }
   bool AtEnd() const { return position_ >= text_.size(); }
   [[noreturn]] void Refuse(const std::string& reason) const {
-    throw PathError(CharactersOf(text_.substr(0, position_)), reason);
+    throw PathError(CharacterCount(text_.substr(0, position_)), reason);
   }
   bool TakeIf(char c) {
     if (AtEnd() || Peek() != c) return false;

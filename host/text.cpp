@@ -15,6 +15,11 @@ constexpr auto kAreEqualLetters = [](char x, char y) { return x == y || Lower(x)
 
 }  // namespace
 
+size_t CharacterCount(std::string_view utf8) {
+  return utf8.size() -
+         static_cast<size_t>(std::count_if(utf8.begin(), utf8.end(), ContinuesCharacter));
+}
+
 WideText ToWide(std::string_view utf8) {
   const int size = static_cast<int>(utf8.size());
   const int needed = MultiByteToWideChar(CP_UTF8, 0, utf8.data(), size, nullptr, 0);

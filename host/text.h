@@ -15,6 +15,12 @@ using WideView = std::basic_string_view<OLECHAR>;
 WideText ToWide(std::string_view utf8);
 std::string ToUtf8(WideView wide);
 
+/// Whether a byte of UTF-8 goes on with a character.
+inline bool ContinuesCharacter(char byte) {
+  return (byte & 0xC0) == 0x80;
+}
+size_t CharacterCount(std::string_view utf8);
+
 inline bool IsDigit(char c) {
   return c >= '0' && c <= '9';
 }

@@ -35,8 +35,7 @@ CommandResult Run(const ExportCommand& command) {
         instances += answer.instances.size();
         WriteInstances(json, answer.instances);
       } else {
-        AddRemark(result, FailureText(name, answer.outcome));
-        result.status = static_cast<int>(ExitStatus::kProviderFailed);
+        AddFailure(result, name, answer.outcome);
         json.Value({});
       }
     }

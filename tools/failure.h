@@ -39,9 +39,4 @@ struct CommandResult {
   int status_when_unwritten = static_cast<int>(ExitStatus::kOutputFailed);
 };
 
-inline void AddRemark(CommandResult& result, const std::string& sentence) {
-  if (!result.remark.empty()) result.remark += "; ";
-  result.remark += sentence;
-}
-
 }  // namespace tqcim::tools

@@ -32,7 +32,7 @@ struct LogEntry {
 /// Something that is wrong.
 struct Finding {
   host::Instance instance;
-  /// The instance's Name, or else its keys.
+  /// The instance's Name; empty without one.
   std::string name = {};
   /// The property that tells the fault, and what it says.
   std::string property = "Status";
@@ -41,6 +41,9 @@ struct Finding {
   /// The newest records that name it, at most two, newest first.
   std::vector<LogEntry> records = {};
 };
+
+/// The finding's name, or else the keys of its instance.
+std::string NameOrKeys(const Finding& finding);
 
 struct Health {
   Verdict verdict = Verdict::kUnknown;

@@ -57,7 +57,7 @@ void WriteFinding(JsonWriter& json, const Finding& finding) {
   json.Object([&] {
     json.Member("class", std::string(finding.instance.definition->name));
     json.Member("path", finding.instance.Path());
-    json.Member("name", finding.name);
+    json.Member("name", NameOrKeys(finding));
     json.Member("verdict", VerdictText(finding.severity));
     json.Member("property", finding.property);
     json.Member("status", finding.status);

@@ -9,7 +9,6 @@
 #include "tools/health_classes.h"
 #include "tools/property_words.h"
 #include "tools/provider.h"
-#include "tools/reference.h"
 #include "tools/status.h"
 #include "tools/text.h"
 
@@ -129,7 +128,6 @@ class PartReader {
   void Add(Verdict severity, Finding finding) {
     finding.severity = severity;
     finding.name = TextOf(finding.instance, "Name");
-    if (finding.name.empty()) finding.name = IdentifyingKeys(finding.instance.Path());
     health_.findings.push_back(std::move(finding));
     told_ = true;
   }

@@ -41,8 +41,7 @@ void Keep(std::vector<LogEntry>& records, const LogEntry& entry, size_t limit) {
 void Take(const LogEntry& entry, Health& health) {
   bool named = false;
   for (Finding& finding : health.findings) {
-    // The keys that stand for a missing name are numbers, which records have for other reasons.
-    if (!Names(entry.text, TextOf(finding.instance, "Name"))) continue;
+    if (!Names(entry.text, finding.name)) continue;
     Keep(finding.records, entry, kRecordsOfFinding);
     named = true;
   }
@@ -57,7 +56,7 @@ void ReadRecords(host::ManagementHost& host, Health& health) {
     std::string last_time;
     ForEach(host, log, [&](host::Instance instance) {
       LogEntry entry{.time = TextOf(instance, "EventTime"),
-                     .severity = TextOf(instance, "Status"),
+                     .severity = TextOf(instance, kStatus),
                      .text = TextOf(instance, "LogRecord"),
                      .sequence = health.log_records};
       if (!entry.time.empty()) last_time = entry.time;

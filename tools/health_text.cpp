@@ -59,7 +59,8 @@ std::string FindingLine(const Finding& finding, const Layout& layout) {
   const bool roll_up = finding.property != "Status" && finding.property != "RedundancyStatus";
   const std::string status = Printable(finding.status);
   std::string whole(finding.instance.definition->name);
-  if (!finding.name.empty()) whole += " " + Printable(finding.name);
+  const std::string name = NameOrKeys(finding);
+  if (!name.empty()) whole += " " + Printable(name);
   whole += ": " + (roll_up ? finding.property + " " : "") + status;
   std::string line = Wrapped(whole, 4, layout.width);
   if (layout.colour && line.ends_with(status)) {

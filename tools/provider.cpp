@@ -48,6 +48,12 @@ std::string FailureText(std::string_view class_name, const host::Outcome& outcom
   return std::string(class_name) + ": the provider answered " + outcome.Text();
 }
 
+void AddFailure(CommandResult& result, std::string_view class_name, const host::Outcome& outcome) {
+  if (!result.remark.empty()) result.remark += "; ";
+  result.remark += FailureText(class_name, outcome);
+  result.status = static_cast<int>(ExitStatus::kProviderFailed);
+}
+
 Answer Enumerate(ManagementHost& host, std::string_view class_name) {
   Answer answer;
   answer.outcome = host.Enumerate(class_name, [&](host::Instance instance) {

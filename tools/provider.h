@@ -26,6 +26,10 @@ bool Answered(const host::Outcome& outcome);
 /// "CIM_Fan: the provider answered WBEM_E_FAILED (0x80041001)".
 std::string FailureText(std::string_view class_name, const host::Outcome& outcome);
 
+/// Adds to a result that the provider failed to give a class: the other classes are shown all the
+/// same.
+void AddFailure(CommandResult& result, std::string_view class_name, const host::Outcome& outcome);
+
 /// Instances, and what the provider said about them.
 struct Answer {
   std::vector<host::Instance> instances;

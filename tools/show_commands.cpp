@@ -121,9 +121,7 @@ CommandResult Run(const ClassesCommand& command, const Layout& layout) {
     if (Answered(answer.outcome)) {
       summaries.push_back({name, answer.instances.size(), WorstStatus(answer.instances)});
     } else {
-      // The other classes are shown all the same.
-      AddRemark(result, FailureText(name, answer.outcome));
-      result.status = static_cast<int>(ExitStatus::kProviderFailed);
+      AddFailure(result, name, answer.outcome);
     }
   }
   result.output = Text(summaries, command.format, source, layout);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdint>
 #include <variant>
 
 #include "host/text.h"
@@ -33,10 +32,6 @@ bool IsControl(OLECHAR unit) {
 bool MovesText(OLECHAR unit) {
   return unit == 0x061C || unit == 0x200E || unit == 0x200F || (unit >= 0x2028 && unit <= 0x202E) ||
          (unit >= 0x2066 && unit <= 0x2069);
-}
-
-bool Continues(char byte) {
-  return (static_cast<uint8_t>(byte) & 0xC0) == 0x80;
 }
 
 }  // namespace
@@ -73,7 +68,7 @@ std::string Printable(std::string_view text) {
 }
 
 size_t ColumnCount(std::string_view text) {
-  return text.size() - static_cast<size_t>(std::count_if(text.begin(), text.end(), Continues));
+  return host::CharacterCount(text);
 }
 
 std::string CutToColumns(std::string_view text, size_t columns) {
@@ -81,7 +76,7 @@ std::string CutToColumns(std::string_view text, size_t columns) {
   if (columns == 0) return {};
   // The character in the last column makes room for the ellipsis.
   size_t end = 0;
-  for (size_t kept = 0; kept < columns; ++end) kept += Continues(text[end]) ? 0 : 1;
+  for (size_t kept = 0; kept < columns; ++end) kept += host::ContinuesCharacter(text[end]) ? 0 : 1;
   return std::string(text.substr(0, end - 1)) + "\xE2\x80\xA6";
 }
 

@@ -22,14 +22,12 @@ HRESULT DeliverDevice(const DataObject& object, Instance& instance, IWbemObjectS
 
 HRESULT Vorn_ManagedSystemServicesDevice::EnumerateInstances(IWbemClassObject* classDefinition,
                                                              IWbemObjectSink* sink) {
-  const OidList devices = ListChildren(layout::system::kMainChassisOid, device::kType);
-  if (devices.empty()) return S_OK;
-  const DataObject object = ReadObject(devices[0]);
-  if (!object) return S_OK;
+  const FirstChild first(layout::system::kMainChassisOid, device::kType);
+  if (!first.object) return S_OK;
   Instance instance(classDefinition);
   // Unlike the single request, the enumeration has no word of a failed spawn.
   if (!instance) return S_OK;
-  return DeliverDevice(object, instance, sink);
+  return DeliverDevice(first.object, instance, sink);
 }
 
 HRESULT Vorn_ManagedSystemServicesDevice::GetInstance(IWbemClassObject* classDefinition,

@@ -25,16 +25,6 @@ struct CustomProfiles {
   const DataObject& processor;
 };
 
-/// The first child of a type, and the list that names it.
-struct FirstChild {
-  FirstChild(uint32_t parentOid, uint16_t type)
-      : list(ListChildren(parentOid, type)),
-        object(list.empty() ? DataObject() : ReadObject(list[0])) {}
-
-  OidList list;
-  DataObject object;
-};
-
 void PutProfileProperties(Instance& instance, const DataObject& object,
                           const CustomProfiles& profiles) {
   instance.Put(OLESTR("chassisIndex"), Variant::Uint8(0));
