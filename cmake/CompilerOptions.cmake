@@ -21,6 +21,8 @@ else()
                         -D_FORTIFY_SOURCE=2 -Wdate-time -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
     add_link_options(-Wl,-z,relro,-z,now)
     # Half of the start of a program was the binding of libstdc++. The modules share nothing of it.
-    add_link_options(-static-libstdc++ -static-libgcc -Wl,--exclude-libs,ALL -Wl,--gc-sections)
+    add_link_options(-nodefaultlibs -Wl,--exclude-libs,ALL -Wl,--gc-sections)
+    # The compiler's own list has libm as well, for parts of libstdc++ of which nothing is left.
+    set(CMAKE_CXX_STANDARD_LIBRARIES "-Wl,-Bstatic -lstdc++ -lgcc -lgcc_eh -Wl,-Bdynamic -lc")
   endif()
 endif()

@@ -51,10 +51,10 @@ OffsetText OffsetTextAt(std::time_t now) {
 
 /// Tells one second and time zone from another. Never 0.
 uint32_t MomentTag(int64_t second) {
-  // FNV-1a.
+  // FNV-1a, with the second in one step.
   uint64_t hash = 0xCBF29CE484222325;
-  const auto add = [&](uint64_t byte) { hash = (hash ^ byte) * 0x100000001B3; };
-  for (size_t i = 0; i < sizeof second; ++i) add(static_cast<uint64_t>(second) >> 8 * i & 0xFF);
+  const auto add = [&](uint64_t value) { hash = (hash ^ value) * 0x100000001B3; };
+  add(static_cast<uint64_t>(second));
   if (const char* zone = std::getenv("TZ")) {
     while (*zone) add(static_cast<unsigned char>(*zone++));
   }

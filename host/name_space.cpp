@@ -19,10 +19,13 @@ bool IsInNamespace(const ObjectPath& path, std::string_view computer_name) {
          (path.namespaces.empty() || EqualNames(path.Namespace(), kNamespace));
 }
 
-std::string ComputerName() {
-  char name[MAX_COMPUTERNAME_LENGTH + 1] = {};
-  DWORD size = sizeof(name);
-  return GetComputerNameA(name, &size) ? std::string(name, size) : std::string();
+const std::string& ComputerName() {
+  static const std::string name = [] {
+    char buffer[MAX_COMPUTERNAME_LENGTH + 1] = {};
+    DWORD size = sizeof(buffer);
+    return GetComputerNameA(buffer, &size) ? std::string(buffer, size) : std::string();
+  }();
+  return name;
 }
 
 HRESULT Namespace::QueryInterface(REFIID riid, void** object) {

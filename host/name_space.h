@@ -20,8 +20,8 @@ inline constexpr std::string_view kNamespace = "root\\cimv2\\vorn";
 /// missing or those of kNamespace, in any case. `computer_name` is what ComputerName gives.
 bool IsInNamespace(const ObjectPath& path, std::string_view computer_name);
 
-/// The name of the computer, which the platform cuts to 15 characters.
-std::string ComputerName();
+/// The name of the computer when it was first asked for, which the platform cuts to 15 characters.
+const std::string& ComputerName();
 
 /// The namespace: GetObject gives class definitions, all else is refused.
 ///

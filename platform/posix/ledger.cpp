@@ -4,14 +4,6 @@
 
 namespace tqcim {
 
-namespace runtime {
-
-ShardedCount liveBstrs;
-ShardedCount liveSafeArrays;
-ShardedCount liveTaskBlocks;
-
-}  // namespace runtime
-
 RuntimeLedger CurrentRuntimeLedger() {
   return {runtime::liveBstrs.Sum(), runtime::liveSafeArrays.Sum(), runtime::liveTaskBlocks.Sum(),
           runtime::RegisteredClasses(), runtime::InitialisationsOfThread()};

@@ -1,5 +1,5 @@
 /// What the runtime has handed out and not got back, so that tests can see that everything was
-/// freed exactly once.
+/// freed exactly once. Builds without tests don't count.
 #pragma once
 
 #include <cstdint>
