@@ -16,23 +16,26 @@ struct ReadKey {
 
 /// Reads the keys in order until one is wanted.
 template <typename Predicate>
-PathKey Find(IWbemPathKeyList* keys, Predicate isWanted) {
+PathKey Find(IWbemPathKeyList* keys, UnreadableKey unreadable, Predicate isWanted) {
   if (!keys) return {kNotFound, false, {}};
   ULONG count = 0;
   HRESULT status = keys->GetCount(&count);
-  for (ULONG i = 0; i < count && SUCCEEDED(status); ++i) {
+  if (FAILED(status)) return {status, false, {}};
+  for (ULONG i = 0; i < count; ++i) {
     ReadKey key;
     ULONG nameSize = kNameSize;
     status = keys->GetKey2(i, 0, &nameSize, key.name, key.value.get(), &key.apparentType);
     if (SUCCEEDED(status) && isWanted(key)) return {status, true, std::move(key.value)};
+    if (FAILED(status) && unreadable == UnreadableKey::kEndsTheSearch) break;
   }
   return {status, false, {}};
 }
 
 }  // namespace
 
-PathKey FindTextKey(IWbemPathKeyList* keys, const OLECHAR* name, TextKey kind) {
-  return Find(keys, [&](const ReadKey& key) {
+PathKey FindTextKey(IWbemPathKeyList* keys, const OLECHAR* name, TextKey kind,
+                    UnreadableKey unreadable) {
+  return Find(keys, unreadable, [&](const ReadKey& key) {
     const bool isText = kind == TextKey::kByApparentType ? key.apparentType == CIM_STRING
                                                          : V_VT(&*key.value) == VT_BSTR;
     return isText && EqualIgnoringCase(key.name, name);
@@ -40,11 +43,12 @@ PathKey FindTextKey(IWbemPathKeyList* keys, const OLECHAR* name, TextKey kind) {
 }
 
 PathKey FindKey(IWbemPathKeyList* keys, const OLECHAR* name) {
-  return Find(keys, [&](const ReadKey& key) { return EqualIgnoringCase(key.name, name); });
+  return Find(keys, UnreadableKey::kIsPassedOver,
+              [&](const ReadKey& key) { return EqualIgnoringCase(key.name, name); });
 }
 
 PathKey FirstKey(IWbemPathKeyList* keys) {
-  return Find(keys, [](const ReadKey&) { return true; });
+  return Find(keys, UnreadableKey::kEndsTheSearch, [](const ReadKey&) { return true; });
 }
 
 int32_t NumberOf(const Variant& value) {

@@ -11,8 +11,12 @@ enum class TextKey {
   kByVariant,       ///< the VARIANT that holds the value: VT_BSTR
 };
 
+/// What becomes of the search when a key can't be read, its name being longer than 255 characters,
+/// say.
+enum class UnreadableKey { kIsPassedOver, kEndsTheSearch };
+
 /// A key that was looked for. `status` is that of the last call to the key list: a class that finds
-/// no key returns it. A read that fails ends the search.
+/// no key returns it.
 struct PathKey {
   HRESULT status;
   bool found;
@@ -20,12 +24,13 @@ struct PathKey {
 };
 
 /// The first key of that name (any case) whose value is a text.
-PathKey FindTextKey(IWbemPathKeyList* keys, const OLECHAR* name, TextKey kind);
+PathKey FindTextKey(IWbemPathKeyList* keys, const OLECHAR* name, TextKey kind,
+                    UnreadableKey unreadable = UnreadableKey::kIsPassedOver);
 
 /// The first key of that name (any case), whatever its value.
 PathKey FindKey(IWbemPathKeyList* keys, const OLECHAR* name);
 
-/// The first key, whatever its name and value.
+/// The first key, whatever its name and value; nothing where that can't be read.
 PathKey FirstKey(IWbemPathKeyList* keys);
 
 /// The number that a key's value holds: a 32-bit integer, or the number that its text begins with.

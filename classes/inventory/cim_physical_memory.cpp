@@ -74,7 +74,7 @@ HRESULT CIM_PhysicalMemory::EnumerateInstances(IWbemClassObject* classDefinition
 
 HRESULT CIM_PhysicalMemory::GetInstance(IWbemClassObject* classDefinition, IWbemPathKeyList* keys,
                                         IWbemObjectSink* sink) {
-  const PathKey key = FindTextKey(keys, kTag, TextKey::kByVariant);
+  const PathKey key = FindTextKey(keys, kTag, TextKey::kByVariant, UnreadableKey::kEndsTheSearch);
   if (!key.value.text()) return key.status;
   const auto index = static_cast<uint16_t>(ScanAsNarrow(key.value.text()));
   const DataObject object = GetChildObjectOfOid2(index, memory::kType);

@@ -81,7 +81,8 @@ HRESULT CIM_Processor::EnumerateInstances(IWbemClassObject* classDefinition,
 
 HRESULT CIM_Processor::GetInstance(IWbemClassObject* classDefinition, IWbemPathKeyList* keys,
                                    IWbemObjectSink* sink) {
-  const PathKey key = FindTextKey(keys, property::kDeviceId, TextKey::kByVariant);
+  const PathKey key =
+      FindTextKey(keys, property::kDeviceId, TextKey::kByVariant, UnreadableKey::kEndsTheSearch);
   if (!key.value.text()) return key.status;
   const auto i = static_cast<uint32_t>(ScanAsNarrow(key.value.text()));
   const OidList sockets = ListChildren(layout::system::kMainChassisOid, device::kType);

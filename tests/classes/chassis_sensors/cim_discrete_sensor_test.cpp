@@ -349,6 +349,9 @@ TEST_F(CimDiscreteSensorTest, WithoutAUsableKeyTheResultIsThatOfTheKeysReading) 
   unreadable.FailKey(0, Hr(0x80041001));
   EXPECT_EQ(Hr(0x80041001), Get("CIM_DiscreteSensor", unreadable));
   EXPECT_EQ(0u, definition.Spawns());
+  unreadable.Add(StringKey(OLESTR("DeviceID"), OLESTR("500")));
+  EXPECT_EQ(0, Get("CIM_DiscreteSensor", unreadable));
+  EXPECT_EQ(1u, DeliveredCount()) << "the next key counts";
 }
 
 TEST_F(CimDiscreteSensorTest, GettingReturnsTheResultOfASpawnWithoutInstance) {

@@ -235,6 +235,10 @@ TEST_P(EventLogTest, WithoutAKeyTheResultIsThatOfTheKeysReading) {
   unreadable.FailKey(0, Hr(0x80041001));
   EXPECT_EQ(Hr(0x80041001), Get(kName, unreadable));
   EXPECT_EQ(0u, definition.Spawns());
+  // Only the POST log looks for a key by its name, and so beyond one that can't be read.
+  unreadable.Add(NumberKey(OLESTR("RecordNumber"), 0));
+  Get(kName, unreadable);
+  EXPECT_EQ(kName == std::string_view("VORN_PostLog") ? 1u : 0u, DeliveredCount());
 }
 
 TEST_P(EventLogTest, PropertiesThatAreRefusedDoNotKeepAnInstanceBack) {

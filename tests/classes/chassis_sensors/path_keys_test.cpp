@@ -47,11 +47,30 @@ TEST_F(PathKeysTest, WhatATextIsThePathTellsOrTheVariant) {
   EXPECT_EQ("14", Text(FindTextKey(&keys, OLESTR("C"), TextKey::kByVariant)));
 }
 
-TEST_F(PathKeysTest, AFailingReadEndsTheSearch) {
+TEST_F(PathKeysTest, AKeyThatCannotBeReadIsPassedOver) {
   keys.FailKey(1, Hr(0x80041008));
-  EXPECT_EQ("status -2147217400", Text(FindKey(&keys, OLESTR("B"))));
-  EXPECT_EQ((std::vector<ULONG>{0, 1}), keys.Reads());
-  EXPECT_EQ("10", Text(FirstKey(&keys)));
+  EXPECT_EQ("12", Text(FindKey(&keys, OLESTR("B"))));
+  EXPECT_EQ((std::vector<ULONG>{0, 1, 2}), keys.Reads());
+  EXPECT_EQ("12", Text(FindTextKey(&keys, OLESTR("B"), TextKey::kByVariant)));
+  EXPECT_EQ("status 0", Text(FindKey(&keys, OLESTR("C"))));
+  keys.FailKey(3, Hr(0x80041003));
+  EXPECT_EQ("status -2147217405", Text(FindKey(&keys, OLESTR("C")))) << "the last read counts";
+}
+
+TEST_F(PathKeysTest, AKeyThatCannotBeReadEndsTheSearchOfClassesThatAskForThat) {
+  keys.FailKey(1, Hr(0x80041008));
+  const auto find = [this](const OLECHAR* name) {
+    return Text(FindTextKey(&keys, name, TextKey::kByVariant, UnreadableKey::kEndsTheSearch));
+  };
+  EXPECT_EQ("10", find(OLESTR("A")));
+  EXPECT_EQ("status -2147217400", find(OLESTR("B")));
+  EXPECT_EQ((std::vector<ULONG>{0, 0, 1}), keys.Reads());
+}
+
+TEST_F(PathKeysTest, AFirstKeyThatCannotBeReadIsNotReplacedByTheNext) {
+  keys.FailKey(0, Hr(0x80041008));
+  EXPECT_EQ("status -2147217400", Text(FirstKey(&keys)));
+  EXPECT_EQ(std::vector<ULONG>{0}, keys.Reads());
 }
 
 TEST_F(PathKeysTest, WithoutKeysTheCountsResultStands) {

@@ -236,6 +236,15 @@ TEST_P(ProbeClassTest, AKeyThatCannotBeReadIsReturned) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
+TEST_P(ProbeClassTest, AKeyThatCannotBeReadIsPassedOver) {
+  FakeKeyList keys;
+  keys.Add(StringKey(OLESTR("DeviceID"), OLESTR("1")));
+  keys.Add(StringKey(OLESTR("DeviceID"), OLESTR("0")));
+  keys.FailKey(0, Hr(0x80041008));
+  EXPECT_EQ(0, Get(kName, keys));
+  EXPECT_EQ(1u, DeliveredCount());
+}
+
 TEST_P(ProbeClassTest, GettingReturnsTheResultOfASpawnWithoutInstance) {
   definition.SpawnNothing(0, Hr(0x80041006));
   definition.SpawnNothing(1, Hr(1));

@@ -281,6 +281,9 @@ TEST_F(VornChassisTest, WithoutATagReturnsTheStatusOfTheKeyList) {
       .FailKey(0, Hr(0x80041001));
   EXPECT_EQ(Hr(0x80041001), Get("VORN_Chassis", unreadable));
   EXPECT_EQ(0u, definition.Spawns());
+  unreadable.Add(StringKey(OLESTR("Tag"), OLESTR("Main System Chassis")));
+  EXPECT_EQ(0, Get("VORN_Chassis", unreadable));
+  EXPECT_EQ(1u, DeliveredCount()) << "the next key counts";
 }
 
 TEST_F(VornChassisTest, IsNotFoundWithoutAKeyList) {

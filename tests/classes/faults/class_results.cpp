@@ -26,6 +26,10 @@ constexpr TakenKey Tag(const OLECHAR* text) {
 constexpr TakenKey Name(const OLECHAR* text) {
   return {OLESTR("Name"), text};
 }
+constexpr TakenKey EndingSearch(TakenKey key) {
+  key.failureEndsSearch = true;
+  return key;
+}
 
 /// A class whose walk returns the sink's last answer, or a failed spawn's; the commonest.
 constexpr Outcome Listed(size_t instances) {
@@ -98,9 +102,9 @@ constexpr ClassResults kTable[] = {
     {"CIM_PackagePowerSupply", Released(4), kNoKey, kNeverGot},
     {"CIM_PackageVoltSensor", Released(4), kNoKey, kNeverGot},
     {"CIM_ParallelController", Listed(1), kNoKey, kNeverGot},
-    {"CIM_PhysicalMemory", Listed(2), Tag(OLESTR("1")), Got(kNotFound)},
+    {"CIM_PhysicalMemory", Listed(2), EndingSearch(Tag(OLESTR("1"))), Got(kNotFound)},
     {"CIM_PointingDevice", Listed(2), kNoKey, kNeverGot},
-    {"CIM_Processor", Listed(2), DeviceId(OLESTR("0")), Got(kSuccess)},
+    {"CIM_Processor", Listed(2), EndingSearch(DeviceId(OLESTR("0"))), Got(kSuccess)},
     {"CIM_PowerSupply", {7, kSuccess, kKept, kLast}, DeviceId(OLESTR("PS4")), Got(kSuccess)},
     {"CIM_SerialController", Listed(2), kNoKey, kNeverGot},
     {"CIM_Slot", Listed(2), kNoKey, kNeverGot},

@@ -48,6 +48,8 @@ struct TakenKey {
   bool isFirst = false;
   /// Whether a key that can't be read counts as one that is not there.
   bool failureIsNotFound = false;
+  /// Whether one that stands before it and can't be read ends the search for it.
+  bool failureEndsSearch = false;
 };
 
 struct ClassResults {

@@ -234,6 +234,8 @@ TEST_F(CimPhysicalMemoryTest, WithoutItsKeyReturnsTheStatusOfTheLastRead) {
   FakeKeyList unreadable;
   unreadable.Add(StringKey(OLESTR("Name"), OLESTR("0"))).FailKey(0, Hr(0x80041001));
   EXPECT_EQ(Hr(0x80041001), Get("CIM_PhysicalMemory", unreadable));
+  unreadable.Add(StringKey(OLESTR("Tag"), OLESTR("0")));
+  EXPECT_EQ(Hr(0x80041001), Get("CIM_PhysicalMemory", unreadable)) << "it ends the search";
   FakeKeyList uncountable;
   uncountable.FailCount(Hr(0x80041008));
   EXPECT_EQ(Hr(0x80041008), Get("CIM_PhysicalMemory", uncountable));

@@ -312,6 +312,8 @@ TEST_F(CimProcessorTest, ReturnsTheFailureOfTheKeyList) {
   FakeKeyList unreadable;
   unreadable.Add(StringKey(OLESTR("DeviceID"), OLESTR("0"))).FailKey(0, Hr(0x80041001));
   EXPECT_EQ(Hr(0x80041001), Get("CIM_Processor", unreadable));
+  unreadable.Add(StringKey(OLESTR("DeviceID"), OLESTR("0")));
+  EXPECT_EQ(Hr(0x80041001), Get("CIM_Processor", unreadable)) << "it ends the search";
   EXPECT_EQ(0u, definition.Spawns());
 }
 

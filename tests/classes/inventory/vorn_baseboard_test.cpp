@@ -224,6 +224,9 @@ TEST_F(VornBaseboardTest, GettingReturnsTheFailureOfReadingTheKeys) {
   unread.Add(StringKey(OLESTR("Tag"), OLESTR("0"))).FailKey(0, Hr(0x80041003));
   EXPECT_EQ(Hr(0x80041003), Get("VORN_Baseboard", unread));
   EXPECT_EQ(0u, definition.Spawns());
+  unread.Add(StringKey(OLESTR("Tag"), OLESTR("0")));
+  EXPECT_EQ(0, Get("VORN_Baseboard", unread));
+  EXPECT_EQ(1u, DeliveredCount()) << "the next key counts";
 }
 
 TEST_F(VornBaseboardTest, IsNotFoundWhereTheStoreDoesNotGiveIt) {

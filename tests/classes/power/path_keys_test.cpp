@@ -94,13 +94,16 @@ TEST_P(PowerKeysTest, WithoutTheKeyNothingIsReadAndTheLastReadIsTheResult) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
-TEST_P(PowerKeysTest, AKeyThatCannotBeReadEndsTheSearch) {
+TEST_P(PowerKeysTest, AKeyThatCannotBeReadIsPassedOver) {
   FakeKeyList keys;
   keys.Add(Wanted()).Add(Wanted());
   keys.FailKey(0, Hr(0x80041008));
-  EXPECT_EQ(GetParam().WithoutKey(Hr(0x80041008)), Get(GetParam().name, keys));
-  EXPECT_EQ((std::vector<ULONG>{0}), keys.Reads());
-  EXPECT_EQ(0u, DeliveredCount());
+  EXPECT_EQ(0, Get(GetParam().name, keys));
+  EXPECT_EQ((std::vector<ULONG>{0, 1}), keys.Reads());
+  EXPECT_EQ(1u, DeliveredCount());
+  keys.FailKey(1, Hr(0x80041003));
+  EXPECT_EQ(GetParam().WithoutKey(Hr(0x80041003)), Get(GetParam().name, keys));
+  EXPECT_EQ(1u, DeliveredCount());
 }
 
 TEST_P(PowerKeysTest, KeysThatCannotBeCountedAreNotRead) {
