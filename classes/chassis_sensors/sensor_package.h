@@ -17,7 +17,7 @@ struct SensorPackageClass {
 
 /// Pairs each chassis with its sensors, from the counts alone; a sensor's number is the chassis's
 /// position times 100 plus its own. The position carries over from one chassis to the next, so a
-/// later chassis adds only what it has beyond the one before. The result is that of the last
+/// later chassis adds only what it has beyond all before it. The result is that of the last
 /// release.
 HRESULT EnumerateSensorPackage(const SensorPackageClass& packageClass,
                                IWbemClassObject* classDefinition, IWbemObjectSink* sink);

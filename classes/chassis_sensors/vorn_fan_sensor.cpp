@@ -17,7 +17,7 @@ constexpr PathFormat kFanPath = OLESTR(
 }  // namespace
 
 /// Pairs fans and tachometers by number, from the counts alone. The number carries over from one
-/// chassis to the next, so a later chassis adds only what it has beyond the one before.
+/// chassis to the next, so a later chassis adds only what it has beyond all before it.
 HRESULT VORN_FanSensor::EnumerateInstances(IWbemClassObject* classDefinition,
                                            IWbemObjectSink* sink) {
   const PathComputerName computerName;

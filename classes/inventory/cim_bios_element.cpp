@@ -48,7 +48,7 @@ void PutBiosProperties(Instance& instance, const DataObject& object) {
   instance.Put(OLESTR("SoftwareElementID"), Variant::Text(object[bios::kVersion]));
   instance.Put(OLESTR("Manufacturer"), Variant::Text(object[bios::kManufacturer]));
   instance.Put(OLESTR("PrimaryBIOS"), Variant::Bool(1));
-  instance.Put(OLESTR("SoftwareElementState"), Variant::Int32(kRunning));
+  instance.Put(OLESTR("SoftwareElementState"), Variant::Int32(kSoftwareElementState));
   instance.Put(OLESTR("SoftwareElementID"), Variant::Text(kSystemBios));
   instance.Put(property::kName, Variant::Text(kSystemBios));
   instance.Put(OLESTR("TargetOperatingSystem"), Variant::Int32(kOtherOperatingSystem));

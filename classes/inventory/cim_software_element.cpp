@@ -12,7 +12,7 @@ namespace firmware = layout::firmware;
 void PutFirmwareProperties(Instance& instance, const DataObject& object, uint16_t) {
   instance.Put(OLESTR("Version"), Variant::Text(object[firmware::kVersion]));
   instance.Put(OLESTR("SoftwareElementID"), Variant::Text(object[firmware::kVersion]));
-  instance.Put(OLESTR("SoftwareElementState"), Variant::Int32(kRunning));
+  instance.Put(OLESTR("SoftwareElementState"), Variant::Int32(kSoftwareElementState));
   instance.Put(property::kName, Variant::Text(object[firmware::kName]));
   instance.Put(OLESTR("TargetOperatingSystem"), Variant::Int32(kOtherOperatingSystem));
   instance.Put(OLESTR("SoftwareElementType"), Variant::Int32(object[firmware::kFirmwareType]));

@@ -5,8 +5,9 @@
 
 namespace tqcim {
 
-/// Software running, as CIM counts software states.
-inline constexpr int32_t kRunning = 4;
+/// None of CIM's software states, which end with 3, "Running". It is a key by which clients know
+/// the instances.
+inline constexpr int32_t kSoftwareElementState = 4;
 inline constexpr int32_t kOtherOperatingSystem = 1;
 
 }  // namespace tqcim

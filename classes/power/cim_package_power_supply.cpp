@@ -17,7 +17,7 @@ constexpr PathFormat kSupplyPath = OLESTR(
 }  // namespace
 
 /// The counter carries over from one chassis to the next, so a later chassis adds only what it has
-/// beyond the one before. The result is that of the last release.
+/// beyond all before it. The result is that of the last release.
 HRESULT CIM_PackagePowerSupply::EnumerateInstances(IWbemClassObject* classDefinition,
                                                    IWbemObjectSink* sink) {
   const PathComputerName computerName;

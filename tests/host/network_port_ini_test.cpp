@@ -9,6 +9,7 @@
 
 #include "host/management_host.h"
 #include "host/module.h"
+#include "tests/support/library_files.h"
 
 namespace tqcim::host {
 namespace {
@@ -35,16 +36,7 @@ const fs::path kSecond = "tqisdy64.ini";
 class NetworkPortIni : public ::testing::Test {
  protected:
   static void SetUpTestSuite() {
-    for (const auto& entry : fs::directory_iterator(ProgramFolder().parent_path())) {
-      const std::string extension = entry.path().extension().string();
-      const std::string name = entry.path().stem().string();
-      const bool library = extension == ".so" || extension == ".dll";
-      if (library && name.find("tq") != std::string::npos && name.ends_with("64")) {
-        const fs::path copy = ProgramFolder() / entry.path().filename();
-        fs::remove(copy);
-        fs::copy_file(entry.path(), copy);
-      }
-    }
+    testing::CopyModules(ProgramFolder().parent_path(), ProgramFolder());
     Write("machine.json", kMachine);
     Write("tqcim.json", R"({"source": "store-file:machine.json", "iniFolder": "settings"})");
     host_ = ManagementHost::Open();

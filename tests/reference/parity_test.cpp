@@ -57,7 +57,10 @@ TEST(Parity, EveryClassHasTestsOfItsHandler) {
   std::string tests;
   const auto folder = RepositoryPath("tests/classes");
   for (const auto& file : std::filesystem::recursive_directory_iterator(folder)) {
-    if (file.path().filename().string().ends_with("_test.cpp")) tests += ContentsOf(file.path());
+    const std::string name = file.path().filename().string();
+    // The registry's test names every class there is.
+    if (name == "registered_classes_test.cpp") continue;
+    if (name.ends_with("_test.cpp")) tests += ContentsOf(file.path());
   }
   for (const std::string& name : SchemaNames()) {
     EXPECT_NE(std::string::npos, tests.find("\"" + name + "\"")) << name;

@@ -8,6 +8,7 @@
 #include "embedded/samples.h"
 #include "store/process.h"
 #include "tests/support/environment.h"
+#include "tests/support/library_files.h"
 #include "tests/support/temporary_folder.h"
 
 namespace tqcim::store {
@@ -20,15 +21,8 @@ class FirstUse : public ::testing::Test {
  protected:
   void SetUp() override {
     testing::SetEnvironment("TQCIM_SOURCE", nullptr);
-    for (const auto& entry : fs::directory_iterator(LibraryFolder())) {
-      const std::string name = entry.path().filename().string();
-      const std::string extension = entry.path().extension().string();
-      const bool library =
-          name.find("tq") != std::string::npos && (extension == ".so" || extension == ".dll");
-      if (library || entry.path().stem() == "store_first_use_probe") {
-        fs::copy(entry.path(), folder_.Path() / name);
-      }
-    }
+    testing::CopyModules(LibraryFolder(), folder_.Path());
+    fs::copy(LibraryFolder() / TQCIM_PROBE_NAME, folder_.Path());
     folder_.Write("minimal.json", embedded::samples::kFiles[1].contents);
     previous_ = fs::current_path();
     fs::current_path(folder_.Path());
@@ -38,9 +32,9 @@ class FirstUse : public ::testing::Test {
     testing::SetEnvironment("TQCIM_SOURCE", nullptr);
   }
 
-  /// Runs the probe and returns what it prints, a '|' for each line's end.
+  /// Runs the probe in the current folder and returns what it prints, a '|' for each line's end.
   std::string Run() {
-    const fs::path probe = (fs::path(".") / "store_first_use_probe").make_preferred();
+    const fs::path probe = (fs::relative(folder_.Path()) / TQCIM_PROBE_NAME).make_preferred();
     const int status = std::system((probe.string() + " > out.txt 2> err.txt").c_str());
     EXPECT_EQ(status, 0);
     errors_ = OnOneLine(testing::ContentsOf("err.txt"));
@@ -77,6 +71,7 @@ TEST_F(FirstUse, TheEnvironmentNamesTheSource) {
 TEST_F(FirstUse, TheConfigurationNamesTheSourceRelativeToItself) {
   Folder().Write("tqcim.json", R"({"source": "store-file:minimal.json"})");
   fs::create_directory("elsewhere");
+  fs::current_path("elsewhere");
   EXPECT_EQ(Run(), "model Tessera 1100|ini 0 7|");
   EXPECT_EQ(Errors(), "");
 }
@@ -112,6 +107,8 @@ TEST_F(FirstUse, IniFilesAreFoundInIniOrInTheFolderThatTheConfigurationNames) {
   fs::create_directory("other");
   Folder().Write(fs::path("ini") / "probe.ini", "[Section]\nkey=11\n");
   Folder().Write(fs::path("other") / "probe.ini", "[Section]\nkey=12\n");
+  fs::create_directory("elsewhere");
+  fs::current_path("elsewhere");
   EXPECT_EQ(Run(), "model Tessera 2200|ini 0 11|");
   Folder().Write("tqcim.json", R"({"iniFolder": "other"})");
   EXPECT_EQ(Run(), "model Tessera 2200|ini 0 12|");

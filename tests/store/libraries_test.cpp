@@ -4,9 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <atomic>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include "embedded/samples.h"
@@ -142,35 +140,6 @@ TEST_F(ObjectLibrary, NeverCutsACharacterOfTheSentence) {
   char message[8];
   EXPECT_NE(TQStoreOpen("store-file:a\xE2\x82\xAC\xE2\x82\xAC", message, 6), 0);
   EXPECT_STREQ(message, "a\xE2\x82\xAC");
-}
-
-TEST_F(ObjectLibrary, WalksStayWholeWhileSourcesAreOpened) {
-  const TemporaryFolder folder;
-  const std::string minimal =
-      "store-file:" + folder.Write("minimal.json", embedded::samples::kFiles[1].contents).string();
-  std::atomic<bool> opening{true};
-  std::atomic<int> failures{0};
-  const auto walk = [&] {
-    do {
-      uint32_t chassis = 2;
-      void* list = SMILListChildOIDByType(&chassis, 225);
-      for (uint32_t oid : Oids(list)) {
-        void* object = SMILGetObjByOID(&oid);
-        if (object == nullptr || U32(object, 4) != oid) ++failures;
-        SMILFreeGeneric(object);
-      }
-      SMILFreeGeneric(list);
-    } while (opening);
-  };
-  std::thread first(walk);
-  std::thread second(walk);
-  for (int i = 0; i < 30; ++i) {
-    EXPECT_EQ(TQStoreOpen(i % 2 == 0 ? minimal.c_str() : "sample", nullptr, 0), 0);
-  }
-  opening = false;
-  first.join();
-  second.join();
-  EXPECT_EQ(failures, 0);
 }
 
 TEST(SupportLibrary, MemoryIsHandedOutAndFreed) {

@@ -6,9 +6,12 @@
 #include <vector>
 
 #include "platform/layouts/catalogue.h"
+#include "platform/libraries.h"
 #include "store/snapshot_builder.h"
 #include "store/store.h"
+#include "store/store_control.h"
 #include "tests/store/raw_bytes.h"
+#include "tests/support/temporary_folder.h"
 
 namespace tqcim::store {
 namespace {
@@ -109,6 +112,47 @@ TEST(StoreConcurrency, OfManyFirstUsersOneLoads) {
   RunTogether({use, use, use, use, use, use, use, use});
   EXPECT_EQ(loads, 1);
   EXPECT_EQ(failures, 0);
+}
+
+/// Of the two sources one has memory modules, the other none.
+TEST(StoreConcurrency, WalksOfTheLibraryStayWholeWhileSourcesAreOpened) {
+  const testing::TemporaryFolder folder;
+  const std::string empty = "store-file:" + folder
+                                                .Write("empty.json", R"({
+    "format": "tqcim-store", "version": 1,
+    "objects": [
+      {"oid": 1, "type": "system", "status": "ok"},
+      {"oid": 2, "type": "chassis", "status": "ok", "parents": [1]}
+    ]
+  })")
+                                                .string();
+  ASSERT_EQ(TQStoreOpen("sample", nullptr, 0), 0);
+  std::atomic<int> failures{0};
+  std::atomic<int> found{0};
+  std::atomic<bool> opening{true};
+  const auto walk = [&] {
+    do {
+      uint32_t chassis = 2;
+      void* list = SMILListChildOIDByType(&chassis, 225);
+      for (uint32_t oid : Oids(list)) {
+        void* object = SMILGetObjByOID(&oid);
+        if (object == nullptr || U32(object, 4) != oid) ++failures;
+        SMILFreeGeneric(object);
+        ++found;
+      }
+      SMILFreeGeneric(list);
+    } while (opening);
+  };
+  const auto open = [&] {
+    for (int i = 0; i < 30; ++i) {
+      if (TQStoreOpen(i % 2 == 0 ? empty.c_str() : "sample", nullptr, 0) != 0) ++failures;
+    }
+    opening = false;
+  };
+  RunTogether({walk, walk, open});
+  walk();
+  EXPECT_EQ(failures, 0);
+  EXPECT_GT(found, 0);
 }
 
 }  // namespace

@@ -153,7 +153,7 @@ TEST_F(Tables, ShowEveryInstanceAsABlockInFull) {
             "SoftwareElementState=4,SoftwareElementID=\"1.0\",TargetOperatingSystem=1\n"
             "  Name                   \u00DCnit, \"A\"\\x0A\\x1B[31m\n"
             "  Version                1.0\n"
-            "  SoftwareElementState   4 (Running)\n"
+            "  SoftwareElementState   4\n"
             "  SoftwareElementID      1.0\n"
             "  TargetOperatingSystem  1\n"
             "  SoftwareElementType    8\n"
@@ -162,7 +162,7 @@ TEST_F(Tables, ShowEveryInstanceAsABlockInFull) {
             "TargetOperatingSystem=1\n"
             "  Name                   B\n"
             "  Version\n"
-            "  SoftwareElementState   4 (Running)\n"
+            "  SoftwareElementState   4\n"
             "  SoftwareElementID\n"
             "  TargetOperatingSystem  1\n"
             "  SoftwareElementType    11\n");

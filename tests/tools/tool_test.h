@@ -31,9 +31,13 @@ class ToolTest : public ::testing::Test {
   static std::filesystem::path Program() { return store::LibraryFolder() / TQCIM_PROGRAM_NAME; }
 
   ToolRun Run(const std::vector<std::string>& arguments) const {
+    return RunProgram(Program(), arguments);
+  }
+  ToolRun RunProgram(const std::filesystem::path& program,
+                     const std::vector<std::string>& arguments) const {
     const std::filesystem::path output = folder_.Path() / "output";
     const std::filesystem::path error = folder_.Path() / "error";
-    const int status = RunChild(Program(), arguments, output, error);
+    const int status = RunChild(program, arguments, output, error);
     return {status, ContentsOf(output), ContentsOf(error)};
   }
 

@@ -69,7 +69,7 @@ TEST_P(SensorPackageTest, PairsEverySensorOfOneChassis) {
   EXPECT_EQ((Texts{"Chassis 2: 0", "Chassis 2: 1", "Chassis 2: 2"}), Pairs());
 }
 
-TEST_P(SensorPackageTest, ALaterChassisAddsOnlyWhatItHasBeyondTheOneBefore) {
+TEST_P(SensorPackageTest, ALaterChassisAddsOnlyWhatItHasBeyondAllBeforeIt) {
   ListSensors(2, 2);
   ListSensors(3, 3);
   EXPECT_EQ(0, EnumerateClass());

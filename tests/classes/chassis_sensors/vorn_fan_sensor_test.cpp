@@ -47,7 +47,7 @@ TEST_F(VornFanSensorTest, PairsEveryFanOfOneChassis) {
   EXPECT_EQ((Texts{"0", "1", "2"}), Numbers());
 }
 
-TEST_F(VornFanSensorTest, ALaterChassisAddsOnlyWhatItHasBeyondTheOneBefore) {
+TEST_F(VornFanSensorTest, ALaterChassisAddsOnlyWhatItHasBeyondAllBeforeIt) {
   ListFans(2, 2);
   ListFans(3, 3);
   EXPECT_EQ(0, EnumerateClass());

@@ -4,7 +4,6 @@
 #include <iterator>
 #include <memory>
 #include <new>
-#include <set>
 #include <stdexcept>
 #include <typeinfo>
 
@@ -114,12 +113,6 @@ TEST(RegisteredClassesTest, EachRowMakesItsHandler) {
   }
 }
 
-TEST(RegisteredClassesTest, TheNamesAre47) {
-  std::set<std::string> names;
-  for (const RegisteredClass& row : kRegisteredClasses) names.insert(row.name);
-  EXPECT_EQ(47u, names.size());
-}
-
 TEST(RegisteredClassesTest, EveryNameIsAnsweredByTheHandlerOfItsRow) {
   ASSERT_EQ(48u, madeCount);
   for (size_t i = 0; i < std::size(kRows); ++i) {
@@ -139,9 +132,9 @@ TEST(RegisteredClassesTest, TheSecondFanRedundancyGroupHandlerReplacesTheFirst) 
 
 TEST(RegisteredClassesTest, ANameIsMatchedExactlyCaseIncluded) {
   for (const char* name :
-       {"", "VORN_", "vorn_system", "Vorn_System", "VORN_System ", " VORN_System", "VORN_SystemX",
-        "VORN_RemoteAccessServicePort", "VORN_SoftwareFeature", "Vorn_Baseboard",
-        "Vorn_NetworkPort", "Vorn_SDCardDevice", "CIM_Fru", "CIM_SoftwareFeature",
+       {"", "VORN_", "vorn_system", "Vorn_System", "VORN_SYSTEM", "VORN_System ", " VORN_System",
+        "VORN_SystemX", "VORN_Syste", "VORN_RemoteAccessServicePort", "VORN_SoftwareFeature",
+        "Vorn_Baseboard", "Vorn_NetworkPort", "Vorn_SDCardDevice", "CIM_Fru", "CIM_SoftwareFeature",
         "CIM_SoftwareElement", "Vorn_esmlog"}) {
     try {
       Lookup(name);

@@ -49,6 +49,8 @@ inline bool Exists(const std::string& keyPath) {
   return true;
 }
 
+inline constexpr const char* kAnotherServer = "another module is registered here";
+
 /// Whether another installation's module is registered, which tests leave alone.
 inline bool AnotherServerIsRegistered(const std::string& module) {
   return Exists(kClsidKey) && ReadValue(kServerKey, nullptr) != Text(module);

@@ -16,8 +16,11 @@ namespace {
 /// namespace.
 class RegistrationTest : public ::testing::Test {
  protected:
+  void SetUp() override {
+    if (AnotherServerIsRegistered(module.FileName())) GTEST_SKIP() << kAnotherServer;
+  }
   ~RegistrationTest() override {
-    module.UnregisterServer();
+    if (!IsSkipped()) module.UnregisterServer();
     // The connections to root\cimv2 are left to the end of the process.
     for (LONG i = services.References(); i > 0; --i) services.Release();
   }

@@ -12,7 +12,7 @@ namespace {
 class Regsvr32 : public ::testing::Test {
  protected:
   void SetUp() override {
-    if (AnotherServerIsRegistered(module)) GTEST_SKIP() << "another module is registered here";
+    if (AnotherServerIsRegistered(module)) GTEST_SKIP() << kAnotherServer;
   }
 
   const std::string module = (store::LibraryFolder() / "tqcim64.dll").string();

@@ -10,7 +10,7 @@ class RegisteredProvider : public InstallationTest {
  protected:
   void SetUp() override {
     InstallationTest::SetUp();
-    if (AnotherServerIsRegistered(module_)) GTEST_SKIP() << "another module is registered here";
+    if (AnotherServerIsRegistered(module_)) GTEST_SKIP() << kAnotherServer;
   }
   void TearDown() override {
     if (Exists(kClsidKey)) RunRegsvr32({"/u", module_});
