@@ -36,4 +36,26 @@ std::string HandlerTest::Value(size_t index, const std::string& property) const 
   return value;
 }
 
+Texts HandlerTest::Values(const std::string& property) const {
+  Texts values;
+  for (size_t i = 0; i < DeliveredCount(); ++i) values.push_back(Value(i, property));
+  return values;
+}
+
+void HandlerTest::ExpectNeverGot(const char* className) {
+  const auto spawns = definition.Spawns();
+  store.RecordCalls();
+  FakeKeyList keys;
+  for (const OLECHAR* name : {OLESTR("DeviceID"), OLESTR("Name"), OLESTR("Tag")}) {
+    keys.Add(StringKey(name, OLESTR("0")));
+  }
+  EXPECT_EQ(Hr(0x80041002), Get(className, keys));
+  keys.FailCount(Hr(0x80041008));
+  EXPECT_EQ(Hr(0x80041002), Get(className, keys));
+  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(className));
+  EXPECT_TRUE(keys.Reads().empty());
+  EXPECT_TRUE(store.Calls().empty());
+  EXPECT_EQ(spawns, definition.Spawns());
+}
+
 }  // namespace tqcim::testing

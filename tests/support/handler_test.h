@@ -14,6 +14,8 @@
 
 namespace tqcim::testing {
 
+using Texts = std::vector<std::string>;
+
 /// Names the instances of a test for several classes.
 inline constexpr auto kClassName = [](const auto& tested) {
   return std::string(tested.param.name);
@@ -53,6 +55,11 @@ class HandlerTest : public BalancedTest {
   /// The value of one property of the instance at `index`; "<absent>" where it was not put, the
   /// last value where it was put again.
   std::string Value(size_t index, const std::string& property) const;
+  /// The same of each instance, in the order of their delivery.
+  Texts Values(const std::string& property) const;
+
+  /// Expects "not found" of every path, without a look at the keys or the store.
+  void ExpectNeverGot(const char* className);
 
   FakeStore store;
   FakeClass definition;

@@ -44,17 +44,5 @@ TEST_F(CimCurrentSensorTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(sensor, Delivered(1));
 }
 
-TEST_F(CimCurrentSensorTest, PublishesProbesOfItsOwnTypeOnly) {
-  store.List(1, 17, {2});
-  for (const uint16_t type : Types{22, 23, 24, 26, 27}) {
-    store.Add(900, type).Ucs2(72, u"Another");
-    store.List(2, type, {900});
-  }
-  store.List(2, 25, {});
-  EXPECT_EQ(0, Enumerate("CIM_CurrentSensor"));
-  EXPECT_EQ(0, Get("CIM_CurrentSensor", StringKey(OLESTR("DeviceID"), OLESTR("0"))));
-  EXPECT_EQ(0u, DeliveredCount());
-}
-
 }  // namespace
 }  // namespace tqcim::testing

@@ -44,17 +44,5 @@ TEST_F(CimTachometerTest, PutsItsPropertiesInOrder) {
   EXPECT_EQ(sensor, Delivered(1));
 }
 
-TEST_F(CimTachometerTest, PublishesProbesOfItsOwnTypeOnly) {
-  store.List(1, 17, {2});
-  for (const uint16_t type : Types{22, 24, 25, 26, 27}) {
-    store.Add(900, type).Ucs2(72, u"Another");
-    store.List(2, type, {900});
-  }
-  store.List(2, 23, {});
-  EXPECT_EQ(0, Enumerate("CIM_Tachometer"));
-  EXPECT_EQ(0, Get("CIM_Tachometer", StringKey(OLESTR("DeviceID"), OLESTR("0"))));
-  EXPECT_EQ(0u, DeliveredCount());
-}
-
 }  // namespace
 }  // namespace tqcim::testing

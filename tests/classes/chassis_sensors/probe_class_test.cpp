@@ -236,6 +236,15 @@ TEST_P(ProbeClassTest, AKeyThatCannotBeReadIsReturned) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
+TEST_P(ProbeClassTest, ProbesOfOtherTypesAreNotPublished) {
+  ListChassis({2});
+  for (const uint16_t type : Types{22, 23, 24, 25, 26, 27}) ListProbes(2, type, {900u + type});
+  store.List(2, kType, {});
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ(0, GetByDeviceId(OLESTR("0")));
+  EXPECT_EQ(0u, DeliveredCount());
+}
+
 TEST_P(ProbeClassTest, AKeyThatCannotBeReadIsPassedOver) {
   FakeKeyList keys;
   keys.Add(StringKey(OLESTR("DeviceID"), OLESTR("1")));

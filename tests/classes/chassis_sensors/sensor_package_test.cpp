@@ -203,13 +203,7 @@ TEST_P(SensorPackageTest, PropertiesThatAreRefusedDoNotKeepAnInstanceBack) {
 
 TEST_P(SensorPackageTest, IsNeverFoundByKeys) {
   ListSensors(2, 1);
-  store.RecordCalls();
-  EXPECT_EQ(Hr(0x80041002), Get(kName, StringKey(OLESTR("Dependent"), OLESTR("Chassis 2"))));
-  EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kName));
-  FakeKeyList keys;
-  keys.FailCount(Hr(0x80041008));
-  EXPECT_EQ(Hr(0x80041002), Get(kName, keys));
-  EXPECT_EQ(Texts{}, store.Calls());
+  ExpectNeverGot(kName);
 }
 
 using SensorPackagesTest = SeveralChassisTest;

@@ -9,7 +9,6 @@
 
 namespace tqcim::testing {
 
-using Texts = std::vector<std::string>;
 /// Object types.
 using Types = std::vector<uint16_t>;
 
@@ -41,13 +40,6 @@ class SeveralChassisTest : public HandlerTest {
   void ListProbes(uint32_t chassisOid, uint16_t type, const std::vector<uint32_t>& oids) {
     for (const uint32_t oid : oids) store.Add(oid, type).Ucs2(72, Named(u"Probe ", oid));
     store.List(chassisOid, type, oids);
-  }
-
-  /// The value of a property in each instance delivered, in order.
-  Texts Values(const std::string& property) const {
-    Texts values;
-    for (size_t i = 0; i < DeliveredCount(); ++i) values.push_back(Value(i, property));
-    return values;
   }
 
   /// "Chassis 2: 240" for each pair delivered, in order: the chassis and the sensor's DeviceID.

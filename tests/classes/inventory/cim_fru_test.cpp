@@ -44,12 +44,6 @@ class CimFruTest : public HandlerTest {
     return Delivered(0);
   }
 
-  std::vector<std::string> DeviceNames() const {
-    std::vector<std::string> names;
-    for (size_t i = 0; i < DeliveredCount(); ++i) names.push_back(Value(i, "FRUDeviceName"));
-    return names;
-  }
-
   const TimeZone zone{"EEE5"};
 };
 
@@ -112,7 +106,7 @@ TEST_F(CimFruTest, UnitsComeInTheOrderOfTheirTypesAndThenOfTheStore) {
   store.List(2, 386, {25});
   EXPECT_EQ(0, Enumerate("CIM_FRU"));
   EXPECT_EQ((std::vector<std::string>{"Power distribution", "Riser", "System board", "Backplane"}),
-            DeviceNames());
+            Values("FRUDeviceName"));
 }
 
 TEST_F(CimFruTest, ListsAgainForEveryPosition) {
@@ -249,7 +243,7 @@ TEST_F(CimFruTest, AListingThatFailsOrAUnitThatCannotBeReadEndsItsTypeOnly) {
   store.FailListing(2, 384);
   store.FailRead(22);
   EXPECT_EQ(0, Enumerate("CIM_FRU"));
-  EXPECT_EQ((std::vector<std::string>{"Backplane"}), DeviceNames());
+  EXPECT_EQ((std::vector<std::string>{"Backplane"}), Values("FRUDeviceName"));
 }
 
 TEST_F(CimFruTest, ATypeEndsAfter65536UnitsInsteadOfStartingOverAndTheNextFollows) {

@@ -31,9 +31,6 @@ inline Puts Ends(const std::string& dependent, const std::string& antecedent) {
   return {{"Dependent", VT_BSTR, 0, dependent}, {"Antecedent", VT_BSTR, 0, antecedent}};
 }
 
-/// One property of several instances, in the order of their delivery.
-using Texts = std::vector<std::string>;
-
 /// Objects at literal offsets. Where a field is narrower than its neighbours would allow, the bytes
 /// behind it are set too, so that reading too many shows.
 class PowerTest : public HandlerTest {
@@ -68,12 +65,6 @@ class PowerTest : public HandlerTest {
     return store.Add(oid, 2).U8(16, 4).U8(17, 0xEE).U16(18, 1).Ucs2(20, name);
   }
 
-  Texts Values(const std::string& property) const {
-    Texts values;
-    for (size_t i = 0; i < DeliveredCount(); ++i) values.push_back(Value(i, property));
-    return values;
-  }
-
   /// `Name` and `DeviceID` of several instances, in the order of their delivery.
   using Ids = std::vector<std::pair<std::string, std::string>>;
   Ids DeliveredIds() const {
@@ -82,18 +73,6 @@ class PowerTest : public HandlerTest {
       ids.emplace_back(Value(i, "Name"), Value(i, "DeviceID"));
     }
     return ids;
-  }
-
-  /// Expects "not found" of every path, without a look at the keys or the store.
-  void ExpectNeverGot(const char* className) {
-    store.RecordCalls();
-    FakeKeyList keys;
-    keys.Add(StringKey(OLESTR("Dependent"), OLESTR("x")));
-    EXPECT_EQ(Hr(0x80041002), Get(className, keys));
-    EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(className));
-    EXPECT_TRUE(keys.Reads().empty());
-    EXPECT_TRUE(store.Calls().empty());
-    EXPECT_EQ(0u, definition.Spawns());
   }
 };
 
