@@ -95,7 +95,9 @@ TEST_F(CimDateTimeTest, IsNullForWhatIsNoDate) {
   ExpectNoDate(&std::tm::tm_mday, 32);
   ExpectNoDate(&std::tm::tm_hour, -1);
   ExpectNoDate(&std::tm::tm_hour, 24);
+  ExpectNoDate(&std::tm::tm_min, -1);
   ExpectNoDate(&std::tm::tm_min, 60);
+  ExpectNoDate(&std::tm::tm_sec, -1);
   ExpectNoDate(&std::tm::tm_sec, 61);
 }
 

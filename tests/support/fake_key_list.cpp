@@ -31,7 +31,7 @@ HRESULT FakeKeyList::GetKey2(ULONG index, ULONG flags, ULONG* nameRoom, LPWSTR n
   EXPECT_EQ(256u, *nameRoom);
   reads_.push_back(index);
   const auto result = keyResults_.find(index);
-  if (result != keyResults_.end()) return result->second;
+  if (result != keyResults_.end() && FAILED(result->second)) return result->second;
   FakeKey& key = keys_.at(index);
   const size_t length = std::char_traits<OLECHAR>::length(key.name);
   std::copy_n(key.name, length + 1, name);
@@ -42,7 +42,7 @@ HRESULT FakeKeyList::GetKey2(ULONG index, ULONG flags, ULONG* nameRoom, LPWSTR n
   if (V_VT(value) == VT_BSTR && !V_BSTR(key.value.get())) {
     SysFreeString(std::exchange(V_BSTR(value), nullptr));
   }
-  return copied;
+  return SUCCEEDED(copied) && result != keyResults_.end() ? result->second : copied;
 }
 
 }  // namespace tqcim::testing

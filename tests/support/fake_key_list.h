@@ -39,7 +39,7 @@ class FakeKeyList final : public RefusingKeyList {
   HRESULT STDMETHODCALLTYPE GetCount(ULONG* count) override;
 
   void FailCount(HRESULT result) { countResult_ = result; }
-  /// What reading the key at `index` returns.
+  /// What reading the key at `index` returns. A success gives the key all the same.
   void FailKey(ULONG index, HRESULT result) { keyResults_[index] = result; }
 
   /// The indexes that were read, in order.

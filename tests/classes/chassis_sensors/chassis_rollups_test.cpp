@@ -206,14 +206,16 @@ TEST_F(ChassisRollUpsTest, ALogThatCannotBeReadIsTriedAgain) {
 }
 
 TEST_F(ChassisRollUpsTest, ALogThatCanNeverBeReadCountsAsAbsentAfter65536Tries) {
-  AddChildren(31, 3100, {2, 2});
-  store.Object(3101).U32(16, 1).U32(20, 1);
+  AddChildren(31, 3100, {2, 2, 2});
+  store.Object(3102).U32(16, 1).U32(20, 1);
   store.FailRead(3100);
+  store.FailRead(3101);
   store.RecordCalls();
   EXPECT_EQ("2", Now("LogFormat"));
   const auto& calls = store.Calls();
   // One of them is for `EsmLogStatus`.
   EXPECT_EQ(65'537, std::count(calls.begin(), calls.end(), "object 3100"));
+  EXPECT_EQ(65'537, std::count(calls.begin(), calls.end(), "object 3101"));
 }
 
 }  // namespace

@@ -315,6 +315,14 @@ TEST_F(CimDiscreteSensorTest, AnUnknownIdentifierIsSuccessWithNothing) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
+TEST_F(CimDiscreteSensorTest, WhereNoObjectIsFoundTheResultOfTheKeysReadingStands) {
+  FakeKeyList keys;
+  keys.Add(StringKey(OLESTR("DeviceID"), OLESTR("500")));
+  keys.FailKey(0, S_FALSE);
+  EXPECT_EQ(S_FALSE, Get("CIM_DiscreteSensor", keys));
+  EXPECT_EQ(0u, definition.Spawns());
+}
+
 TEST_F(CimDiscreteSensorTest, TheFirstStringKeyNamedDeviceIdInAnyCaseCounts) {
   store.Add(500, 22).Ucs2(72, u"probe");
   FakeKeyList keys;
@@ -334,8 +342,9 @@ TEST_F(CimDiscreteSensorTest, ADeviceIdGivenAsANumberIsIgnored) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
-TEST_F(CimDiscreteSensorTest, WithoutAUsableKeyTheResultIsThatOfTheKeysReading) {
+TEST_F(CimDiscreteSensorTest, WithoutAUsableKeyNothingIsReadAndTheResultIsThatOfTheKeysReading) {
   store.Add(500, 22).Ucs2(72, u"probe");
+  store.RecordCalls();
   FakeKeyList none;
   EXPECT_EQ(0, Get("CIM_DiscreteSensor", none));
   EXPECT_EQ(0, Get("CIM_DiscreteSensor", StringKey(OLESTR("Name"), OLESTR("500"))));
@@ -348,6 +357,7 @@ TEST_F(CimDiscreteSensorTest, WithoutAUsableKeyTheResultIsThatOfTheKeysReading) 
   unreadable.Add(StringKey(OLESTR("DeviceID"), OLESTR("500")));
   unreadable.FailKey(0, Hr(0x80041001));
   EXPECT_EQ(Hr(0x80041001), Get("CIM_DiscreteSensor", unreadable));
+  EXPECT_EQ(Texts{}, store.Calls());
   EXPECT_EQ(0u, definition.Spawns());
   unreadable.Add(StringKey(OLESTR("DeviceID"), OLESTR("500")));
   EXPECT_EQ(0, Get("CIM_DiscreteSensor", unreadable));

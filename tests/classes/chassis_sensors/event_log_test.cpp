@@ -176,6 +176,7 @@ TEST_P(EventLogTest, ARecordThatCannotBeReadEndsTheEnumeration) {
     EXPECT_TRUE(unreadable.FailedCall());
   }
   EXPECT_EQ(Texts{"Record 0"}, Records());
+  EXPECT_EQ(1u, definition.Spawns());
 }
 
 TEST_P(EventLogTest, ARecordIsGotByItsNumber) {
@@ -197,6 +198,14 @@ TEST_P(EventLogTest, ANumberGivenAsATextCountsAsFarAsItIsOne) {
 
 TEST_P(EventLogTest, ARecordNumberPastTheEndIsSuccessWithNothing) {
   for (const int32_t number : {3, 65'535, -1}) EXPECT_EQ(0, GetRecord(number)) << number;
+  EXPECT_EQ(0u, definition.Spawns());
+}
+
+TEST_P(EventLogTest, WhereNoRecordIsFoundTheResultOfTheKeysReadingStands) {
+  FakeKeyList keys;
+  keys.Add(NumberKey(OLESTR("RecordNumber"), 3));
+  keys.FailKey(0, S_FALSE);
+  EXPECT_EQ(S_FALSE, Get(kName, keys));
   EXPECT_EQ(0u, definition.Spawns());
 }
 
@@ -222,7 +231,8 @@ TEST_P(EventLogTest, GettingReturnsTheResultOfASpawnWithoutInstance) {
   EXPECT_EQ(0u, DeliveredCount());
 }
 
-TEST_P(EventLogTest, WithoutAKeyTheResultIsThatOfTheKeysReading) {
+TEST_P(EventLogTest, WithoutAKeyNothingIsReadAndTheResultIsThatOfTheKeysReading) {
+  store.RecordCalls();
   FakeKeyList none;
   EXPECT_EQ(0, Get(kName, none));
   EXPECT_EQ(Hr(0x80041002), GetWithoutKeys(kName));
@@ -234,6 +244,7 @@ TEST_P(EventLogTest, WithoutAKeyTheResultIsThatOfTheKeysReading) {
   unreadable.Add(NumberKey(OLESTR("RecordNumber"), 0));
   unreadable.FailKey(0, Hr(0x80041001));
   EXPECT_EQ(Hr(0x80041001), Get(kName, unreadable));
+  EXPECT_EQ(Texts{}, store.Calls());
   EXPECT_EQ(0u, definition.Spawns());
   // Only the POST log looks for a key by its name, and so beyond one that can't be read.
   unreadable.Add(NumberKey(OLESTR("RecordNumber"), 0));

@@ -73,6 +73,14 @@ TEST_F(PathKeysTest, AFirstKeyThatCannotBeReadIsNotReplacedByTheNext) {
   EXPECT_EQ(std::vector<ULONG>{0}, keys.Reads());
 }
 
+TEST_F(PathKeysTest, ASuccessThatIsNot0GivesAKeyAndEndsNoSearch) {
+  keys.FailKey(0, S_FALSE);
+  keys.FailKey(3, S_FALSE);
+  EXPECT_EQ("10", Text(FirstKey(&keys)));
+  EXPECT_EQ("11", Text(FindKey(&keys, OLESTR("B"))));
+  EXPECT_EQ("status 1", Text(FindKey(&keys, OLESTR("C"))));
+}
+
 TEST_F(PathKeysTest, WithoutKeysTheCountsResultStands) {
   FakeKeyList none;
   EXPECT_EQ("status 0", Text(FirstKey(&none)));

@@ -148,6 +148,15 @@ TEST_P(ProbeClassTest, PastTheLastProbeNothingIsFoundAndThatIsSuccess) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
+TEST_P(ProbeClassTest, WhereNoProbeIsFoundTheResultOfTheKeysReadingStands) {
+  store.List(3, kType, {});
+  FakeKeyList keys;
+  keys.Add(StringKey(OLESTR("DeviceID"), OLESTR("3")));
+  keys.FailKey(0, S_FALSE);
+  EXPECT_EQ(S_FALSE, Get(kName, keys));
+  EXPECT_EQ(0u, definition.Spawns());
+}
+
 TEST_P(ProbeClassTest, AnUnreadableProbeIsNotFoundAndThatIsSuccess) {
   store.FailRead(202);
   EXPECT_EQ(0, GetByDeviceId(OLESTR("1")));

@@ -142,6 +142,15 @@ TEST_P(SensorPackageTest, ReadsNoObjectButTheDescription) {
             store.Calls());
 }
 
+TEST_P(SensorPackageTest, AChassisWithoutADescriptionIsNotAskedForItsSensors) {
+  ListChassis({2});
+  store.FailListing(2, 32);
+  store.RecordCalls();
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ((Texts{"convert RACK42-NODE0007", "children 1/17", "children 2/32", "free"}),
+            store.Calls());
+}
+
 TEST_P(SensorPackageTest, ALongChassisNameIsCutAtTheEndOfThePath) {
   ListChassis({2});
   ListSensors(2, 1);

@@ -152,6 +152,13 @@ TEST_F(VornChassisTest, EnumeratesEveryChassis) {
   EXPECT_EQ("Main System Chassis", Value(1, "Tag"));
 }
 
+TEST_F(VornChassisTest, ChildrenBelongToTheIdentifierThatTheChassisIsListedBy) {
+  store.Object(2).U32(4, 777);
+  EXPECT_EQ("Main System Chassis", Now("Tag"));
+  EXPECT_EQ(0, GetByTag(OLESTR("another")));
+  EXPECT_EQ(1u, DeliveredCount());
+}
+
 TEST_F(VornChassisTest, AnEmptyStoreIsSuccess) {
   store.List(1, 17, {});
   EXPECT_EQ(0, Enumerate("VORN_Chassis"));
@@ -172,6 +179,13 @@ TEST_F(VornChassisTest, AFailedSpawnEndsTheEnumeration) {
   definition.SpawnNothing(1, Hr(0x80041006));
   EXPECT_EQ(Hr(0x80041006), Enumerate("VORN_Chassis"));
   EXPECT_EQ(1u, DeliveredCount());
+}
+
+TEST_F(VornChassisTest, ASuccessfulSpawnWithoutAnInstanceEndsTheEnumerationToo) {
+  store.List(1, 17, {2, 2, 2});
+  definition.SpawnNothing(1, S_FALSE);
+  EXPECT_EQ(S_FALSE, Enumerate("VORN_Chassis"));
+  EXPECT_EQ(2u, definition.Spawns());
 }
 
 TEST_F(VornChassisTest, ARefusalEndsTheEnumeration) {
@@ -237,6 +251,14 @@ TEST_F(VornChassisTest, GettingFromAnEmptyStoreIsSuccess) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
+TEST_F(VornChassisTest, GettingFromAnEmptyStoreReturnsTheResultOfTheKeysReading) {
+  store.List(1, 17, {});
+  FakeKeyList keys;
+  keys.Add(StringKey(OLESTR("Tag"), OLESTR("Main System Chassis"))).FailKey(0, S_FALSE);
+  EXPECT_EQ(S_FALSE, Get("VORN_Chassis", keys));
+  EXPECT_EQ(0u, definition.Spawns());
+}
+
 TEST_F(VornChassisTest, GettingDoesNotStopAtARefusalAndReturnsTheLastStatus) {
   store.List(1, 17, {2, 2});
   sink.Refuse(0, Hr(0x80041032));
@@ -246,9 +268,13 @@ TEST_F(VornChassisTest, GettingDoesNotStopAtARefusalAndReturnsTheLastStatus) {
   EXPECT_EQ(Hr(0x80041032), GetByTag(OLESTR("Main System Chassis")));
 }
 
-TEST_F(VornChassisTest, GettingReturnsTheFailureOfTheSpawn) {
+TEST_F(VornChassisTest, GettingEndsAtASpawnWithoutAnInstanceWithItsResult) {
+  store.List(1, 17, {2, 2});
   definition.SpawnNothing(0, Hr(0x80041006));
   EXPECT_EQ(Hr(0x80041006), GetByTag(OLESTR("Main System Chassis")));
+  definition.SpawnNothing(1, S_FALSE);
+  EXPECT_EQ(S_FALSE, GetByTag(OLESTR("Main System Chassis")));
+  EXPECT_EQ(2u, definition.Spawns());
   EXPECT_EQ(0u, DeliveredCount());
 }
 
@@ -269,7 +295,8 @@ TEST_F(VornChassisTest, AKeyThatThePathTakesForNoTextIsSkipped) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
-TEST_F(VornChassisTest, WithoutATagReturnsTheStatusOfTheKeyList) {
+TEST_F(VornChassisTest, WithoutATagNothingIsReadAndTheResultIsThatOfTheKeyList) {
+  store.RecordCalls();
   FakeKeyList none;
   EXPECT_EQ(0, Get("VORN_Chassis", none));
   FakeKeyList uncountable;
@@ -280,6 +307,7 @@ TEST_F(VornChassisTest, WithoutATagReturnsTheStatusOfTheKeyList) {
   unreadable.Add(StringKey(OLESTR("Tag"), OLESTR("Main System Chassis")))
       .FailKey(0, Hr(0x80041001));
   EXPECT_EQ(Hr(0x80041001), Get("VORN_Chassis", unreadable));
+  EXPECT_TRUE(store.Calls().empty());
   EXPECT_EQ(0u, definition.Spawns());
   unreadable.Add(StringKey(OLESTR("Tag"), OLESTR("Main System Chassis")));
   EXPECT_EQ(0, Get("VORN_Chassis", unreadable));

@@ -46,6 +46,9 @@ TEST_F(VornEsmLogTest, ACountBeyondTheRecordsEndsAtTheFirstThatIsMissing) {
   store.SetRecordCount(310, 100);
   EXPECT_EQ(0, Enumerate("VORN_EsmLog"));
   EXPECT_EQ(4u, DeliveredCount());
+  store.SetRecordCount(310, 0xFFFF);
+  EXPECT_EQ(0, Enumerate("VORN_EsmLog"));
+  EXPECT_EQ(8u, DeliveredCount()) << "a count has no sign";
 }
 
 TEST_F(VornEsmLogTest, AsksForTheCountOnceAndFreesEachRecordBeforeTheNext) {

@@ -36,6 +36,15 @@ TEST_F(VornPackageDiscreteSensorTest, PutsTheChassisThenTheSensor) {
       Delivered(0));
 }
 
+TEST_F(VornPackageDiscreteSensorTest, AChassisWithoutADescriptionIsNotAskedForItsProbes) {
+  ListChassis({2});
+  store.FailListing(2, 32);
+  store.RecordCalls();
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ((Texts{"convert RACK42-NODE0007", "children 1/17", "children 2/32", "free"}),
+            store.Calls());
+}
+
 TEST_F(VornPackageDiscreteSensorTest, EachChassisIsPairedWithTheVoltageProbesOfLaterOnesToo) {
   ListChassis({2, 3, 4});
   store.List(4, 22, {});

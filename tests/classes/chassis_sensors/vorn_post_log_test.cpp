@@ -96,6 +96,14 @@ TEST_F(VornPostLogTest, TheLow16BitsOfTheRecordNumberCount) {
   EXPECT_EQ(Texts(3, "1"), Values("RecordNumber"));
 }
 
+TEST_F(VornPostLogTest, TheRecordNumberHasNoSign) {
+  for (int i = 4; i < 32'768; ++i) AddRecord(u"");
+  AddRecord(u"Record 32768");
+  EXPECT_EQ(0, Get("VORN_PostLog", NumberKey(OLESTR("RecordNumber"), 32'768)));
+  EXPECT_EQ(Texts{"Record 32768"}, Values("LogRecord"));
+  EXPECT_EQ(Texts{"32768"}, Values("RecordNumber"));
+}
+
 TEST_F(VornPostLogTest, DoesNotReadTheTimeZoneBeforeTheFirstTime) {
   store.AddRecord(310).I64(0, kRecordTime).Ucs2(16, u"Record 4");
   const TimeZone zone("AAA-1");

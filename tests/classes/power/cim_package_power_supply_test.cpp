@@ -98,6 +98,15 @@ TEST_F(CimPackagePowerSupplyTest, PassesOverAChassisWithoutADescription) {
   EXPECT_EQ(Ends(kSupply100, kShelfB), Delivered(1));
 }
 
+TEST_F(CimPackagePowerSupplyTest, AChassisWithoutADescriptionIsNotAskedForItsSupplies) {
+  store.FailListing(100, 32);
+  store.RecordCalls();
+  EXPECT_EQ(0, Enumerate("CIM_PackagePowerSupply"));
+  EXPECT_EQ((std::vector<std::string>{"convert RACK42-NODE0007", "children 1/17", "children 100/32",
+                                      "free"}),
+            store.Calls());
+}
+
 TEST_F(CimPackagePowerSupplyTest, PassesOverAChassisWhoseDescriptionCannotBeRead) {
   AddSecondChassis({210});
   store.FailRead(110);

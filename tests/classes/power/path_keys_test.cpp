@@ -94,6 +94,14 @@ TEST_P(PowerKeysTest, WithoutTheKeyNothingIsReadAndTheLastReadIsTheResult) {
   EXPECT_EQ(0u, definition.Spawns());
 }
 
+TEST_P(PowerKeysTest, WhereTheKeyFindsNothingTheResultOfItsReadingStands) {
+  FakeKeyList keys;
+  keys.Add(StringKey(GetParam().key, OLESTR("99")));
+  keys.FailKey(0, S_FALSE);
+  EXPECT_EQ(GetParam().WithoutKey(S_FALSE), Get(GetParam().name, keys));
+  EXPECT_EQ(0u, DeliveredCount());
+}
+
 TEST_P(PowerKeysTest, AKeyThatCannotBeReadIsPassedOver) {
   FakeKeyList keys;
   keys.Add(Wanted()).Add(Wanted());

@@ -176,6 +176,12 @@ TEST_P(RedundancyGroupTest, GettingLooksAtTheGroupsAgainForEveryChassis) {
   EXPECT_EQ((Texts{"Spare"}), Values("Name"));
 }
 
+TEST_P(RedundancyGroupTest, GettingEndsAtAnUnreadableGroup) {
+  store.FailRead(400);
+  EXPECT_EQ(0, GetByName(OLESTR("Spare")));
+  EXPECT_EQ(0u, definition.Spawns());
+}
+
 TEST_P(RedundancyGroupTest, GettingWhatIsNotThereIsSuccessWithNothing) {
   store.FailRead(400);
   EXPECT_EQ(0, GetByName(OLESTR("Main")));

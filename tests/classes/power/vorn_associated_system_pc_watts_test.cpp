@@ -48,6 +48,13 @@ TEST_F(VornAssociatedSystemPcWattsTest, TakesProbesOfSubtypes24And26Only) {
     EXPECT_EQ(0, Associate());
     EXPECT_EQ(0u, DeliveredCount()) << subtype;
   }
+  for (const uint32_t subtype : {24u, 26u}) {
+    store.Object(301).U32(16, subtype);
+    EXPECT_EQ(0, Associate());
+  }
+  ASSERT_EQ(2u, DeliveredCount());
+  EXPECT_EQ(Ends(kSystem, kSystemSensor), Delivered(0));
+  EXPECT_EQ(Ends(kSystem, kSystemSensor), Delivered(1));
 }
 
 TEST_F(VornAssociatedSystemPcWattsTest, WithoutProbesEnumerationIsSuccess) {

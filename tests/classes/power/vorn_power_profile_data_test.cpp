@@ -68,6 +68,17 @@ TEST_F(VornPowerProfileDataTest, TheCustomProfilesAreReadBehindTheSpawnOrBeforeI
   EXPECT_EQ(expected, store.Calls());
 }
 
+TEST_F(VornPowerProfileDataTest, TheEnumerationReadsMemoryThenFansThenProcessors) {
+  store.RecordCalls();
+  EnumerateProfile();
+  std::vector<std::string> expected = {"children 2/48",   "object 700",  //
+                                       "children 700/80", "object 780",  //
+                                       "children 700/81", "object 781",  //
+                                       "children 700/82", "object 782"};
+  expected.insert(expected.end(), 8, "free");
+  EXPECT_EQ(expected, store.Calls());
+}
+
 TEST_F(VornPowerProfileDataTest, TheEnumerationHoldsTheListsToo) {
   size_t live = 0;
   sink.AtIndicate([&] { live = store.LiveBlocks(); });

@@ -27,6 +27,13 @@ TEST_F(PresentOffsetTest, TheDaylightSavingHourIsNoPartOfTheOffset) {
   EXPECT_STREQ("19000101000000.000000+60.", FormatCimDateTime(&time).get());
 }
 
+TEST_F(PresentOffsetTest, LessThanAMinuteHasItsSign) {
+  const TimeZone zone("AAA0:00:30");
+  std::tm time{};
+  time.tm_mday = 1;
+  EXPECT_STREQ("19000101000000.000000-0.5", FormatCimDateTime(&time).get());
+}
+
 /// A zone file (RFC 8536, version 1) of a place that went from UTC+1 to another offset, told in
 /// seconds, at the beginning of 2016.
 std::string MovedZone(const std::string& offset) {
