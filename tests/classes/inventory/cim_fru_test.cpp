@@ -246,6 +246,16 @@ TEST_F(CimFruTest, AListingThatFailsOrAUnitThatCannotBeReadEndsItsTypeOnly) {
   EXPECT_EQ((std::vector<std::string>{"Backplane"}), Values("FRUDeviceName"));
 }
 
+TEST_F(CimFruTest, UnitsBeyondPosition255AreReadToo) {
+  store.Add(23, 386).Utf8(32, "Backplane");
+  std::vector<uint32_t> oids(257, 22);
+  oids[256] = 23;
+  store.List(2, 386, oids);
+  EXPECT_EQ(0, Enumerate("CIM_FRU"));
+  ASSERT_EQ(259u, DeliveredCount());
+  EXPECT_EQ("Backplane", Value(258, "FRUDeviceName"));
+}
+
 TEST_F(CimFruTest, ATypeEndsAfter65536UnitsInsteadOfStartingOverAndTheNextFollows) {
   definition.RecordNothing();
   store.Add(23, 387, 2);

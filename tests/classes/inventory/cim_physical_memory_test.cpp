@@ -199,6 +199,7 @@ TEST_F(CimPhysicalMemoryTest, TheIndexHas16Bits) {
   EXPECT_EQ(0, GetByTag(OLESTR("65536")));
   ASSERT_EQ(1u, DeliveredCount());
   EXPECT_EQ(kFirstModule, Delivered(0));
+  EXPECT_EQ(Hr(0x80041002), GetByTag(OLESTR("256")));
 }
 
 TEST_F(CimPhysicalMemoryTest, ATagBeyondTheDevicesIsNotFound) {

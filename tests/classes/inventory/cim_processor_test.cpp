@@ -174,6 +174,7 @@ TEST_F(CimProcessorTest, StopsAtASocketThatCannotBeRead) {
   store.List(2, 196, {100, 999, 100});
   EXPECT_EQ(0, Enumerate("CIM_Processor"));
   EXPECT_EQ(1u, DeliveredCount());
+  EXPECT_EQ(1u, definition.Spawns());
 }
 
 TEST_F(CimProcessorTest, StoppingAtASocketKeepsTheStatusOfTheLastDelivery) {

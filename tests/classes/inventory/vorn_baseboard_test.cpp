@@ -174,6 +174,7 @@ TEST_F(VornBaseboardTest, OnlyTheLow16BitsOfTheTagCount) {
   EXPECT_EQ(0, GetByTag(OLESTR("65536")));
   EXPECT_EQ("XB-200", Value(0, "Name"));
   EXPECT_EQ(Hr(0x80041002), GetByTag(OLESTR("-1")));
+  EXPECT_EQ(Hr(0x80041002), GetByTag(OLESTR("256")));
 }
 
 TEST_F(VornBaseboardTest, ATagPastTheLastBoardIsNotFound) {

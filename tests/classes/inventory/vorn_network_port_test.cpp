@@ -39,7 +39,7 @@ class VornNetworkPortTest : public HandlerTest {
     store.List(2, 96, {101, 100});
   }
 
-  /// The adapter at OID 101, without the text at the given offset.
+  /// The adapter at OID 101, without the text at the given offset. No two of its numbers are equal.
   void AddAdapter(uint32_t absentOffset = 0) {
     FakeBlock& adapter = store.Add(101, 96, 2)
                              .U8(16, 3)
@@ -48,14 +48,14 @@ class VornNetworkPortTest : public HandlerTest {
                              .U8(19, 0xEE)
                              .U32(24, 10)
                              .U32(140, 17)
-                             .U32(144, 1)
-                             .U32(148, 2)
+                             .U32(144, 5)
+                             .U32(148, 6)
                              .U32(152, 4294967295)
                              .U16(156, 1)
                              .U16(158, 2)
-                             .U16(160, 3)
-                             .U16(162, 1)
-                             .I16(164, 1);
+                             .U16(160, 4)
+                             .U16(162, 9)
+                             .I16(164, 8);
     for (const AdapterText& text : kAdapterTexts) {
       if (text.offset != absentOffset) adapter.Utf8(text.offset, text.text);
     }
@@ -81,13 +81,13 @@ const Puts kAdapter = {{"CreationClassName", VT_BSTR, 0, "Vorn_NetworkPort"},
                        {"CurrentMacAddress", VT_BSTR, 0, "02:00:5E:00:00:01"},
                        {"PermanentAddress", VT_BSTR, 0, "02:00:5E:00:00:02"},
                        {"NicCapabilities", VT_I4, 0, "17"},
-                       {"NicTOECapability", VT_I4, 0, "1"},
+                       {"NicTOECapability", VT_I4, 0, "5"},
                        {"NicRDMACapability", VT_I4, 0, "-1"},
-                       {"NiciSCSICapability", VT_I4, 0, "2"},
+                       {"NiciSCSICapability", VT_I4, 0, "6"},
                        {"IsTOEEnable", VT_BOOL, 0, "1"},
-                       {"IsRDMAEnable", VT_BOOL, 0, "3"},
+                       {"IsRDMAEnable", VT_BOOL, 0, "4"},
                        {"IsiSCSIEnable", VT_BOOL, 0, "2"},
-                       {"NParEPEnable", VT_I4, 0, "1"},
+                       {"NParEPEnable", VT_I4, 0, "8"},
                        {"NicStatus", VT_I4, 0, "10"},
                        {"BusNumber", VT_I4, 0, "3"},
                        {"DeviceNumber", VT_I4, 0, "31"},
@@ -288,6 +288,16 @@ TEST_F(VornNetworkPortTest, EndsAtTheFirstAdapterThatCannotBeRead) {
   store.FailRead(101);
   EXPECT_EQ(0, Enumerate("VORN_NetworkPort"));
   EXPECT_EQ(0u, DeliveredCount());
+}
+
+TEST_F(VornNetworkPortTest, AdaptersBeyondPosition255AreReadToo) {
+  std::vector<uint32_t> oids(257, 100);
+  oids[256] = 101;
+  store.List(2, 96, oids);
+  EXPECT_EQ(0, Enumerate("VORN_NetworkPort"));
+  ASSERT_EQ(257u, DeliveredCount());
+  EXPECT_EQ(kAdapterWithoutTexts, Delivered(255));
+  EXPECT_EQ(kAdapter, Delivered(256));
 }
 
 TEST_F(VornNetworkPortTest, EndsAfter65536AdaptersInsteadOfStartingOver) {

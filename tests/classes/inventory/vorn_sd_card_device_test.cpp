@@ -181,6 +181,14 @@ TEST_F(VornSdCardDeviceTest, PositionsOfTwoDigitsAreMatchedToo) {
   EXPECT_EQ("10", Value(0, "DeviceID"));
 }
 
+TEST_F(VornSdCardDeviceTest, PositionsCountOnBeyond32767) {
+  std::vector<uint32_t> oids(32'769, 133);
+  oids[32'768] = 131;
+  store.List(2, 52, oids);
+  EXPECT_EQ((std::vector<std::string>{"Internal card B"}), NamesGotBy(OLESTR("32768")));
+  EXPECT_EQ("32768", Value(0, "DeviceID"));
+}
+
 TEST_F(VornSdCardDeviceTest, TheKeyIsComparedAsTextAndNotAsANumber) {
   for (const OLECHAR* text :
        {OLESTR("01"), OLESTR(" 1"), OLESTR("1 "), OLESTR("+1"), OLESTR("1.0"), OLESTR("0x1"),
