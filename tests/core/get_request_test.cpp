@@ -135,6 +135,9 @@ TEST_F(GetRequestTest, APathThatDoesNotParseFails) {
 TEST_F(GetRequestTest, APathWithoutAClassFails) {
   parser.Understand("root\\cimv2", nullptr, &keys);
   EXPECT_EQ(Hr(0x80041001), GetByPath(OLESTR("root\\cimv2")));
+  EXPECT_EQ(
+      (std::vector<std::string>{"SetText 4 root\\cimv2", "GetClassName length", "GetKeyList"}),
+      parser.Calls());
   ExpectNothingSent();
 }
 

@@ -1,5 +1,6 @@
 #include "core/variant.h"
 
+#include "tests/support/fault.h"
 #include "tests/support/handler_test.h"
 #include "tests/support/recorded_put.h"
 
@@ -43,6 +44,12 @@ TEST_F(VariantTest, ArraysOfNumbersAndTexts) {
                 Variant::TextArray(
                     std::initializer_list<const OLECHAR*>{OLESTR("a"), OLESTR(""), OLESTR("c")}));
   ExpectVariant(VT_ARRAY | VT_I4, "{}", Variant::Int32Array({}));
+}
+
+TEST_F(VariantTest, AnArrayThatFindsNoMemoryIsEmpty) {
+  constexpr int32_t kValues[] = {1, 2};
+  const Fault noMemory({FaultKind::kAllocations, 0});
+  EXPECT_EQ(VT_EMPTY, V_VT(&*Variant::Int32Array(kValues)));
 }
 
 TEST_F(VariantTest, OnlyATextVariantHasAText) {

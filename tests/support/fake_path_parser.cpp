@@ -29,6 +29,7 @@ class FakePathParser::Path final : public RefusingPath {
     if (call.Fails()) return call.Result();
     ExpectHeld("GetClassName");
     parser_.calls_.push_back(name ? "GetClassName text" : "GetClassName length");
+    if (!name && *room != 0) ADD_FAILURE() << "room in no buffer";
     const HRESULT result = name ? parser_.classNameResult_ : parser_.lengthResult_;
     if (FAILED(result)) return result;
     const size_t length =
