@@ -65,6 +65,13 @@ TEST(Bstr, LengthInBytesMayBeOdd) {
   SysFreeString(text);
 }
 
+TEST(Bstr, LengthsTakeMoreThan16Bits) {
+  BSTR text = SysAllocStringLen(nullptr, 40'000);
+  EXPECT_EQ(40'000u, SysStringLen(text));
+  EXPECT_EQ(80'000u, SysStringByteLen(text));
+  SysFreeString(text);
+}
+
 TEST(Bstr, ALengthThatNoTextCanHaveGivesNull) {
   EXPECT_EQ(nullptr, SysAllocStringLen(nullptr, 0xFFFFFFFFu));
   EXPECT_EQ(nullptr, SysAllocStringLen(nullptr, 0x80000000u));

@@ -136,6 +136,25 @@ TEST(ClassActivation, ARevokedClassIsNotRegistered) {
   });
 }
 
+TEST(ClassActivation, ARevokedClassTakesNoOtherWithIt) {
+  OnNewThread([] {
+    const ComOnThread com;
+    constexpr CLSID kOther = {0x3D2A60B1, 0x7C40, 0x4E55, {0x8A, 0x01, 1, 2, 3, 4, 5, 8}};
+    CountedObject product;
+    Factory other(&product);
+    Factory factory(&product);
+    DWORD otherCookie = 0;
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, CoRegisterClassObject(kOther, &other, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE,
+                                          &otherCookie));
+    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    EXPECT_EQ(S_OK, CoRevokeClassObject(otherCookie));
+    EXPECT_EQ(0u, other.References());
+    EXPECT_EQ(1u, factory.References());
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+  });
+}
+
 TEST(ClassActivation, OneOfTheAskedContextsIsEnough) {
   OnNewThread([] {
     RegisteredClass registered;

@@ -72,6 +72,11 @@ TEST(Guid, AnythingElseIsNotAnIdentifier) {
                               OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDF}"),
                               OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDFFF}"),
                               OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDFG}"),
+                              OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDFg}"),
+                              OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDF/}"),
+                              OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDF:}"),
+                              OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDF@}"),
+                              OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDF`}"),
                               OLESTR("{CB8555CC9-128-11D1-AD9B-00C04FD8FDFF}"),
                               OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDFF)"),
                               OLESTR("{CB8555CC-9128-11D1-AD9B-00C04FD8FDFF} ")}) {

@@ -191,4 +191,18 @@ TEST(SafeArray, NullIsRefused) {
   EXPECT_EQ(E_INVALIDARG, SafeArrayCopy(nullptr, nullptr));
 }
 
+TEST(SafeArray, NowhereToReadFromOrToWriteToIsRefused) {
+  SAFEARRAY* array = SafeArrayCreateVector(VT_I4, 0, 1);
+  LONG number = 0;
+  EXPECT_EQ(E_INVALIDARG, SafeArrayGetVartype(array, nullptr));
+  EXPECT_EQ(E_INVALIDARG, SafeArrayGetLBound(array, 1, nullptr));
+  EXPECT_EQ(E_INVALIDARG, SafeArrayGetUBound(array, 1, nullptr));
+  EXPECT_EQ(E_INVALIDARG, SafeArrayGetElement(array, nullptr, &number));
+  EXPECT_EQ(E_INVALIDARG, SafeArrayGetElement(array, &number, nullptr));
+  EXPECT_EQ(E_INVALIDARG, SafeArrayPutElement(array, nullptr, &number));
+  EXPECT_EQ(E_INVALIDARG, SafeArrayAccessData(array, nullptr));
+  EXPECT_EQ(E_INVALIDARG, SafeArrayCopy(array, nullptr));
+  EXPECT_EQ(S_OK, SafeArrayDestroy(array));
+}
+
 }  // namespace

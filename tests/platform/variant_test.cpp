@@ -50,8 +50,26 @@ TEST(Variant, ClearingLeavesWhatIsOnlyReferredTo) {
   SysFreeString(text);
 }
 
+TEST(Variant, AReferenceToAnArrayIsCopiedAndClearedAsAReference) {
+  SAFEARRAY* array = SafeArrayCreateVector(VT_I2, 0, 1);
+  VARIANT source;
+  VariantInit(&source);
+  V_VT(&source) = VT_ARRAY | VT_I2 | VT_BYREF;
+  V_BYREF(&source) = &array;
+  VARIANT copy;
+  VariantInit(&copy);
+  EXPECT_EQ(S_OK, VariantCopy(&copy, &source));
+  EXPECT_EQ(VT_ARRAY | VT_I2 | VT_BYREF, V_VT(&copy));
+  EXPECT_EQ(&array, V_BYREF(&copy));
+  EXPECT_EQ(S_OK, VariantClear(&copy));
+  EXPECT_EQ(S_OK, VariantClear(&source));
+  EXPECT_EQ(1u, SafeArrayGetDim(array));
+  EXPECT_EQ(S_OK, SafeArrayDestroy(array));
+}
+
 TEST(Variant, TypesThatNoVariantHasAreRefused) {
-  for (const int type : {15, 24, 0x0FFF, VT_EMPTY | VT_ARRAY, VT_NULL | VT_BYREF}) {
+  for (const int type : {15, 24, 0x0FFF, 0x1000 | VT_BSTR, 0x8000 | VT_BSTR, VT_EMPTY | VT_ARRAY,
+                         VT_NULL | VT_BYREF}) {
     VARIANT value;
     VariantInit(&value);
     V_VT(&value) = static_cast<VARTYPE>(type);
@@ -149,6 +167,7 @@ TEST(Variant, CopyingOntoItselfChangesNothing) {
   V_BSTR(&value) = SysAllocString(OLESTR("same"));
   BSTR text = V_BSTR(&value);
   EXPECT_EQ(S_OK, VariantCopy(&value, &value));
+  EXPECT_EQ(VT_BSTR, V_VT(&value));
   EXPECT_EQ(text, V_BSTR(&value));
   VariantClear(&value);
 }

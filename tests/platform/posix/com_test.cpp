@@ -58,6 +58,38 @@ TEST(ClassActivation, OtherRegistrationFlagsAreRefused) {
   });
 }
 
+/// Notes how often it was held when it was last asked for an interface.
+class AskedFactory final : public CountedObject {
+ public:
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) override {
+    referencesWhenAsked = References();
+    return CountedObject::QueryInterface(iid, object);
+  }
+
+  ULONG referencesWhenAsked = 0;
+};
+
+TEST(ClassActivation, AFactoryIsHeldWhileItIsAsked) {
+  OnNewThread([] {
+    const ComOnThread com;
+    AskedFactory factory;
+    DWORD cookie = 0;
+    ASSERT_EQ(S_OK, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
+                                          REGCLS_MULTIPLEUSE, &cookie));
+    void* object = nullptr;
+    EXPECT_EQ(E_NOINTERFACE,
+              CoGetClassObject(kClass, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, &object));
+    EXPECT_EQ(2u, factory.referencesWhenAsked) << "by its registration and for the call";
+    EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
+  });
+}
+
+TEST(Guid, NullIsRefused) {
+  EXPECT_EQ(E_INVALIDARG, StringFromCLSID(kClass, nullptr));
+  EXPECT_EQ(E_INVALIDARG,
+            CLSIDFromString(OLESTR("{3D2A60B1-7C40-4E55-8A01-010203040507}"), nullptr));
+}
+
 TEST(ComInitialisation, ReservedArgumentHasToBeNull) {
   OnNewThread([] {
     int something = 0;

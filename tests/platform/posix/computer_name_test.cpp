@@ -31,12 +31,12 @@ class ComputerNameOfHost : public ::testing::Test {
     hostNameFails = false;
   }
 
-  /// The computer's name on such a host; empty when there is none.
+  /// The computer's name on such a host; "<none>" when there is none.
   static std::string NameOn(const std::string& host) {
     hostName = host;
     char name[16];
     DWORD size = 16;
-    if (!GetComputerNameA(name, &size)) return "";
+    if (!GetComputerNameA(name, &size)) return "<none>";
     EXPECT_EQ(size, std::strlen(name));
     return name;
   }
@@ -45,20 +45,21 @@ class ComputerNameOfHost : public ::testing::Test {
 TEST_F(ComputerNameOfHost, EndsBeforeTheFirstDot) {
   EXPECT_EQ("rack7", NameOn("rack7"));
   EXPECT_EQ("rack7", NameOn("rack7.example.org"));
+  EXPECT_EQ("r", NameOn("r.example.org"));
 }
 
 TEST_F(ComputerNameOfHost, IsCutAfterFifteenCharacters) {
   EXPECT_EQ("storage-node-12", NameOn("storage-node-12"));
   EXPECT_EQ("storage-node-12", NameOn("storage-node-123"));
   EXPECT_EQ("storage-node-12", NameOn("storage-node-123.example.org"));
-  EXPECT_EQ("storage-node-12", NameOn("storage-node-12" + std::string(200, 'x')));
+  EXPECT_EQ("storage-node-12", NameOn("storage-node-12" + std::string(300, 'x')));
 }
 
 TEST_F(ComputerNameOfHost, DoesNotExistWithoutAHostName) {
-  EXPECT_EQ("", NameOn(""));
-  EXPECT_EQ("", NameOn(".example.org"));
+  EXPECT_EQ("<none>", NameOn(""));
+  EXPECT_EQ("<none>", NameOn(".example.org"));
   hostNameFails = true;
-  EXPECT_EQ("", NameOn("rack7"));
+  EXPECT_EQ("<none>", NameOn("rack7"));
 }
 
 TEST_F(ComputerNameOfHost, NeedsSomewhereToGo) {

@@ -27,6 +27,17 @@ TEST(TextConversion, EachMaximalSubpartIsReplacedOnce) {
   EXPECT_EQ(u"\uFFFD\uFFFD\uFFFD\uFFFDA", Widen(CP_UTF8, "\xE1\x80\xE2\xF0\x91\x92\xF1\xBF\x41"));
 }
 
+// Unicode 15.0, section 3.9, table 3-7.
+TEST(TextConversion, ASecondByteBeyondTheBoundsOfItsLeadIsNoPartOfTheCharacter) {
+  constexpr const char* kBelow[] = {"\xC2\x7F", "\xDF\x7F", "\xE1\x7F", "\xEC\x7F", "\xED\x7F",
+                                    "\xEE\x7F", "\xEF\x7F", "\xF1\x7F", "\xF3\x7F", "\xF4\x7F"};
+  for (const char* text : kBelow) EXPECT_EQ(u"\uFFFD\x7F", Widen(CP_UTF8, text)) << text;
+  constexpr const char* kOthers[] = {"\xC2\xC0", "\xDF\xC0", "\xE0\x9F", "\xE0\xC0", "\xE1\xC0",
+                                     "\xEC\xC0", "\xED\xA0", "\xEE\xC0", "\xEF\xC0", "\xF0\x8F",
+                                     "\xF0\xC0", "\xF1\xC0", "\xF3\xC0", "\xF4\x90"};
+  for (const char* text : kOthers) EXPECT_EQ(u"\uFFFD\uFFFD", Widen(CP_UTF8, text)) << text;
+}
+
 TEST(TextConversion, ATextThatEndsTooSoonIsReplaced) {
   EXPECT_EQ(u"\uFFFD", Widen(CP_UTF8, "\xE2\x82"));
   EXPECT_EQ(u"\uFFFD", Widen(CP_UTF8, "\xF0\x9F\x98"));

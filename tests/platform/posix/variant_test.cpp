@@ -5,7 +5,7 @@
 
 namespace {
 
-TEST(Variant, ALockedArrayCannotBeCleared) {
+TEST(Variant, ALockedArrayCannotBeClearedNorReplaced) {
   VARIANT value;
   VariantInit(&value);
   V_VT(&value) = VT_ARRAY | VT_I2;
@@ -13,6 +13,10 @@ TEST(Variant, ALockedArrayCannotBeCleared) {
   void* data;
   ASSERT_EQ(S_OK, SafeArrayAccessData(V_ARRAY(&value), &data));
   EXPECT_EQ(DISP_E_ARRAYISLOCKED, VariantClear(&value));
+  EXPECT_EQ(VT_ARRAY | VT_I2, V_VT(&value));
+  VARIANT empty;
+  VariantInit(&empty);
+  EXPECT_EQ(DISP_E_ARRAYISLOCKED, VariantCopy(&value, &empty));
   EXPECT_EQ(VT_ARRAY | VT_I2, V_VT(&value));
   SafeArrayUnaccessData(V_ARRAY(&value));
   EXPECT_EQ(S_OK, VariantClear(&value));
