@@ -27,11 +27,13 @@ int main() {
   }
   SMILFreeGeneric(list);
 
-  uint16_t number = 7;
+  uint16_t room[2] = {7, 0};
   const auto readNumber = [&] {
-    uint32_t size = sizeof(number);
-    return SMReadINIFileValue("Section", "key", 4, &number, &size, &number, 2, "probe.ini", 1);
+    uint32_t size = sizeof(room);
+    const int32_t result =
+        SMReadINIFileValue("Section", "key", 4, room, &size, room, 2, "probe.ini", 1);
+    return size == 2 ? result : -1;
   };
   readNumber();
-  std::printf("ini %d %u\n", readNumber(), number);
+  std::printf("ini %d %u\n", readNumber(), room[0]);
 }

@@ -135,11 +135,29 @@ TEST_F(ObjectLibrary, CutsTheSentenceAtTheRoomThatThereIs) {
   EXPECT_NE(TQStoreOpen("tape", nullptr, 100), 0);
 }
 
+TEST_F(ObjectLibrary, TheSentenceIsWholeWhereItJustFits) {
+  const std::string sentence = Open("tape");
+  const auto length = static_cast<uint32_t>(sentence.size());
+  std::string message(length + 2, '#');
+  EXPECT_NE(TQStoreOpen("tape", message.data(), length + 1), 0);
+  EXPECT_EQ(message, sentence + '\0' + '#');
+  message.assign(length + 1, '#');
+  EXPECT_NE(TQStoreOpen("tape", message.data(), length), 0);
+  EXPECT_EQ(message, sentence.substr(0, length - 1) + '\0' + '#') << "one too long";
+  message.assign(length + 9, '#');
+  EXPECT_NE(TQStoreOpen("tape", message.data(), length + 9), 0);
+  EXPECT_EQ(message, sentence + '\0' + "########") << "what isn't needed stays";
+}
+
 TEST_F(ObjectLibrary, NeverCutsACharacterOfTheSentence) {
   // The sentence begins with the path.
   char message[8];
   EXPECT_NE(TQStoreOpen("store-file:a\xE2\x82\xAC\xE2\x82\xAC", message, 6), 0);
   EXPECT_STREQ(message, "a\xE2\x82\xAC");
+  EXPECT_NE(TQStoreOpen("store-file:a\xC3\xBF\xC3\xBF", message, 5), 0);
+  EXPECT_STREQ(message, "a\xC3\xBF");
+  EXPECT_NE(TQStoreOpen("store-file:\xE2\x82\xAC", message, 2), 0);
+  EXPECT_STREQ(message, "");
 }
 
 TEST(SupportLibrary, MemoryIsHandedOutAndFreed) {
@@ -196,6 +214,14 @@ TEST(SupportLibrary, ALongerTextIsCutAtTheBufferAndNeverPastIt) {
       << "a surrogate pair is not cut";
 }
 
+TEST(SupportLibrary, ACutTakesAwayTheFirstHalfOfASurrogatePairAndNothingElse) {
+  EXPECT_EQ(Convert("a\xF0\x90\x80\x80", 6), (Converted{1, 4, OLESTR("a")})) << "D800";
+  EXPECT_EQ(Convert("a\xF4\x8F\xBF\xBF", 6), (Converted{1, 4, OLESTR("a")})) << "DBFF";
+  EXPECT_EQ(Convert("\xF0\x9F\x98\x80", 4), (Converted{1, 2, OLESTR("")}));
+  EXPECT_EQ(Convert("\xED\x9F\xBFz", 4), (Converted{1, 4, OLESTR("\xD7FF")}));
+  EXPECT_EQ(Convert("\xF0\x90\x80\x80z", 6), (Converted{1, 6, OLESTR("\xD800\xDC00")}));
+}
+
 TEST(SupportLibrary, WhatCannotBeConvertedLeavesAnEmptyText) {
   EXPECT_EQ(Convert("a\xFF", 32), (Converted{1, 2, OLESTR("")}));
   EXPECT_EQ(Convert(nullptr, 32), (Converted{1, 2, OLESTR("")}));
@@ -216,6 +242,10 @@ TEST(SupportLibrary, AMissingIniFileGivesTheDefault) {
   value = 9;
   EXPECT_EQ(SMReadINIFileValue("s", "k", 4, &value, &size, &value, 2, "no-such.ini", 1), 0);
   EXPECT_EQ(value, 9) << "the default may be the value itself";
+  uint16_t room[2] = {};
+  size = 4;
+  EXPECT_EQ(SMReadINIFileValue("s", "k", 4, room, &size, &standard, 2, "no-such.ini", 1), 0);
+  EXPECT_EQ(size, 2U) << "as much as was written";
 }
 
 TEST(SupportLibrary, IniValuesThatCannotBeDeliveredAreRefused) {

@@ -196,6 +196,9 @@ TEST(StoreBlocks, ATextIsFoundAtItsOffsetOnly) {
   EXPECT_EQ(VersionOf(object), "\xC3\xA4 1");
   EXPECT_EQ(Store::TextAt(object, 0), nullptr);
   EXPECT_EQ(Store::TextAt(object, 15), nullptr) << "inside the header";
+  void* behindHeader = Store::TextAt(object, 16);
+  EXPECT_NE(behindHeader, nullptr);
+  Store::Free(behindHeader);
   EXPECT_EQ(Store::TextAt(object, 86), nullptr) << "right behind the object";
   EXPECT_EQ(Store::TextAt(object, 85), nullptr) << "half a character";
   EXPECT_EQ(Store::TextAt(object, 0xFFFFFFFF), nullptr);
