@@ -1,4 +1,6 @@
 // The walk of the classes that publish one instance per object of a type below OID 2.
+#include <algorithm>
+
 #include "tests/support/handler_test.h"
 
 namespace tqcim::testing {
@@ -35,6 +37,16 @@ TEST_P(ListedDevicesTest, EveryObjectIsPublishedInStoreOrderAndListedAfreshForEa
   EXPECT_EQ((std::vector<std::string>{listing, "object 13", listing, "object 11", listing,
                                       "object 12", listing}),
             reads);
+}
+
+TEST_P(ListedDevicesTest, ObjectsBeyondPosition255AreReadToo) {
+  std::vector<uint32_t> oids(257, 11);
+  oids[256] = 12;
+  List(oids);
+  store.RecordCalls();
+  EXPECT_EQ(0, EnumerateClass());
+  EXPECT_EQ(257u, DeliveredCount());
+  EXPECT_EQ(1, std::count(store.Calls().begin(), store.Calls().end(), "object 12"));
 }
 
 TEST_P(ListedDevicesTest, NothingInTheStoreIsSuccess) {
