@@ -66,6 +66,8 @@ TEST(TextConversion, WhatIsNotUtf8BecomesTheReplacementCharacter) {
 TEST(TextConversion, ALoneSurrogateBecomesTheReplacementCharacter) {
   EXPECT_EQ("\xEF\xBF\xBD", Narrow(CP_UTF8, TextView(OLESTR("\xD83D"), 1)));
   EXPECT_EQ("\xEF\xBF\xBD", Narrow(CP_UTF8, TextView(OLESTR("\xDE00"), 1)));
+  EXPECT_EQ("\xEF\xBF\xBD", Narrow(CP_UTF8, TextView(OLESTR("\xD83D\xDE00"), 1)))
+      << "what follows the text is no part of it";
   EXPECT_EQ("\xEF\xBF\xBDz", Narrow(CP_UTF8, TextView(OLESTR("\xD83Dz"), 2)));
   EXPECT_EQ("\xEF\xBF\xBD\xF0\x9F\x98\x80",
             Narrow(CP_UTF8, TextView(OLESTR("\xD83D\xD83D\xDE00"), 3)));
@@ -105,6 +107,18 @@ TEST(TextConversion, TooLittleRoomGivesZero) {
   char narrow[3];
   EXPECT_EQ(0, WideCharToMultiByte(CP_UTF8, 0, OLESTR("fan"), -1, narrow, 3, nullptr, nullptr));
   EXPECT_EQ(0, WideCharToMultiByte(CP_UTF8, 0, OLESTR("\x20AC"), 1, narrow, 2, nullptr, nullptr));
+}
+
+TEST(TextConversion, NothingIsWrittenBeyondTheRoom) {
+  OLECHAR wide[8];
+  for (OLECHAR& unit : wide) unit = OLESTR('?');
+  EXPECT_EQ(0, MultiByteToWideChar(CP_UTF8, 0, "\xC3\xA9 sensor", -1, wide, 3));
+  EXPECT_EQ(OLESTR("?????"), TextView(wide + 3, 5));
+  char narrow[8];
+  for (char& unit : narrow) unit = '?';
+  EXPECT_EQ(
+      0, WideCharToMultiByte(CP_UTF8, 0, OLESTR("\xE9 sensor"), -1, narrow, 3, nullptr, nullptr));
+  EXPECT_EQ("?????", std::string_view(narrow + 3, 5));
 }
 
 TEST(TextConversion, WrongArgumentsGiveZero) {

@@ -42,6 +42,8 @@ TEST(TextConversion, ATextThatEndsTooSoonIsReplaced) {
   EXPECT_EQ(u"\uFFFD", Widen(CP_UTF8, "\xE2\x82"));
   EXPECT_EQ(u"\uFFFD", Widen(CP_UTF8, "\xF0\x9F\x98"));
   EXPECT_EQ(u"\uFFFD", Widen(CP_UTF8, "\xC3"));
+  EXPECT_EQ(u"\uFFFD", Widen(CP_UTF8, std::string_view("\xE2\x82\xAC", 2)))
+      << "what follows the text is no part of it";
 }
 
 TEST(TextConversion, HalfACharacterIsTooLittleRoom) {

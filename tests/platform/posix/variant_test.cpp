@@ -1,4 +1,4 @@
-// What variants of this platform refuse.
+// What variants and arrays of this platform refuse.
 #include <gtest/gtest.h>
 
 #include "platform/wmi.h"
@@ -20,6 +20,20 @@ TEST(Variant, ALockedArrayCannotBeClearedNorReplaced) {
   EXPECT_EQ(VT_ARRAY | VT_I2, V_VT(&value));
   SafeArrayUnaccessData(V_ARRAY(&value));
   EXPECT_EQ(S_OK, VariantClear(&value));
+}
+
+TEST(SafeArray, HasOneDimensionWithBounds) {
+  SAFEARRAYBOUND bounds[] = {{1, 0}, {1, 0}};
+  EXPECT_EQ(nullptr, SafeArrayCreate(VT_I4, 2, bounds));
+  EXPECT_EQ(nullptr, SafeArrayCreate(VT_I4, 0, bounds));
+  EXPECT_EQ(nullptr, SafeArrayCreate(VT_I4, 1, nullptr));
+}
+
+TEST(SafeArray, ANumberFromNowhereIsRefused) {
+  SAFEARRAY* array = SafeArrayCreateVector(VT_I4, 0, 1);
+  LONG index = 0;
+  EXPECT_EQ(E_INVALIDARG, SafeArrayPutElement(array, &index, nullptr));
+  EXPECT_EQ(S_OK, SafeArrayDestroy(array));
 }
 
 TEST(Variant, TypesThatThisRuntimeDoesNotOwnAreRefused) {
