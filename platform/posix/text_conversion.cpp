@@ -66,8 +66,8 @@ std::span<const Unit> Source(const Unit* text, int length) {
           length < 0 ? std::char_traits<Unit>::length(text) + 1 : static_cast<size_t>(length)};
 }
 
-/// The bytes that may follow a lead byte, and how many (Unicode 15.0, table 3-7). Only the first
-/// of them has bounds of its own; the others are 80 to BF.
+/// The bytes that follow a lead byte beyond ASCII, and how many (Unicode 15.0, table 3-7); none
+/// where it leads nothing. Only the first of them has bounds of its own; the others are 80 to BF.
 struct Sequence {
   int trailing;
   uint8_t firstLow;
@@ -75,7 +75,6 @@ struct Sequence {
 };
 
 Sequence SequenceOf(uint8_t lead) {
-  if (lead < 0x80) return {0, 0, 0};
   if (lead >= 0xC2 && lead <= 0xDF) return {1, 0x80, 0xBF};
   if (lead == 0xE0) return {2, 0xA0, 0xBF};
   if (lead == 0xED) return {2, 0x80, 0x9F};
@@ -83,16 +82,15 @@ Sequence SequenceOf(uint8_t lead) {
   if (lead == 0xF0) return {3, 0x90, 0xBF};
   if (lead >= 0xF1 && lead <= 0xF3) return {3, 0x80, 0xBF};
   if (lead == 0xF4) return {3, 0x80, 0x8F};
-  return {-1, 0, 0};
+  return {0, 0, 0};
 }
 
-/// Takes one character off the front of the bytes.
+/// Takes one character beyond ASCII off the front of the bytes.
 char32_t TakeCharacter(std::span<const char>& bytes) {
   const auto lead = static_cast<uint8_t>(bytes.front());
   bytes = bytes.subspan(1);
   const Sequence sequence = SequenceOf(lead);
-  if (sequence.trailing < 0) return kReplacement;
-  if (sequence.trailing == 0) return lead;
+  if (sequence.trailing == 0) return kReplacement;
   char32_t character = lead & (0x3FU >> sequence.trailing);
   uint8_t low = sequence.firstLow;
   uint8_t high = sequence.firstHigh;
