@@ -1,5 +1,5 @@
 /// What the runtime has handed out and not got back, so that tests can see that everything was
-/// freed exactly once. Builds without tests don't count.
+/// freed exactly once. Builds without tests don't count texts, arrays and blocks.
 #pragma once
 
 #include <cstdint>
