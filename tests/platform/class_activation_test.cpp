@@ -13,6 +13,7 @@ namespace {
 using tqcim::testing::ComOnThread;
 using tqcim::testing::CountedObject;
 using tqcim::testing::OnNewThread;
+using tqcim::testing::Serve;
 
 constexpr CLSID kClass = {0x3D2A60B1, 0x7C40, 0x4E55, {0x8A, 0x01, 1, 2, 3, 4, 5, 6}};
 
@@ -43,10 +44,6 @@ class Factory : public IClassFactory {
   std::atomic<ULONG> references_ = 0;
 };
 
-HRESULT Register(IUnknown* factory, DWORD* cookie) {
-  return CoRegisterClassObject(kClass, factory, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, cookie);
-}
-
 HRESULT Create(void** object) {
   return CoCreateInstance(kClass, nullptr, CLSCTX_INPROC_SERVER, IID_IUnknown, object);
 }
@@ -54,7 +51,7 @@ HRESULT Create(void** object) {
 /// COM on this thread, and a class that is registered as long as this lives.
 class RegisteredClass {
  public:
-  RegisteredClass() { EXPECT_EQ(S_OK, Register(&factory, &cookie)); }
+  RegisteredClass() { EXPECT_EQ(S_OK, Serve(kClass, &factory, &cookie)); }
   ~RegisteredClass() {
     EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
     EXPECT_EQ(0u, factory.References());
@@ -128,7 +125,7 @@ TEST(ClassActivation, ARevokedClassIsNotRegistered) {
     CountedObject product;
     Factory factory(&product);
     DWORD cookie = 0;
-    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    ASSERT_EQ(S_OK, Serve(kClass, &factory, &cookie));
     ASSERT_EQ(S_OK, CoRevokeClassObject(cookie));
     void* object = nullptr;
     EXPECT_EQ(REGDB_E_CLASSNOTREG, Create(&object));
@@ -145,9 +142,8 @@ TEST(ClassActivation, ARevokedClassTakesNoOtherWithIt) {
     Factory factory(&product);
     DWORD otherCookie = 0;
     DWORD cookie = 0;
-    ASSERT_EQ(S_OK, CoRegisterClassObject(kOther, &other, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE,
-                                          &otherCookie));
-    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    ASSERT_EQ(S_OK, Serve(kOther, &other, &otherCookie));
+    ASSERT_EQ(S_OK, Serve(kClass, &factory, &cookie));
     EXPECT_EQ(S_OK, CoRevokeClassObject(otherCookie));
     EXPECT_EQ(0u, other.References());
     EXPECT_EQ(1u, factory.References());
@@ -170,7 +166,7 @@ TEST(ClassActivation, NeedsCom) {
     CountedObject product;
     Factory factory(&product);
     DWORD cookie = 0;
-    EXPECT_EQ(CO_E_NOTINITIALIZED, Register(&factory, &cookie));
+    EXPECT_EQ(CO_E_NOTINITIALIZED, Serve(kClass, &factory, &cookie));
     EXPECT_EQ(0u, factory.References());
     void* object = &object;
     EXPECT_EQ(CO_E_NOTINITIALIZED, Create(&object));
@@ -197,7 +193,7 @@ TEST(ClassActivation, TheEndOfComRevokesEveryClass) {
     {
       const ComOnThread com;
       DWORD cookie = 0;
-      ASSERT_EQ(S_OK, Register(&factory, &cookie));
+      ASSERT_EQ(S_OK, Serve(kClass, &factory, &cookie));
     }
     EXPECT_EQ(0u, factory.References());
     const ComOnThread com;
@@ -212,8 +208,8 @@ TEST(ClassActivation, NullIsRefused) {
     CountedObject product;
     Factory factory(&product);
     DWORD cookie = 0;
-    EXPECT_EQ(E_INVALIDARG, Register(nullptr, &cookie));
-    EXPECT_EQ(E_INVALIDARG, Register(&factory, nullptr));
+    EXPECT_EQ(E_INVALIDARG, Serve(kClass, nullptr, &cookie));
+    EXPECT_EQ(E_INVALIDARG, Serve(kClass, &factory, nullptr));
     EXPECT_EQ(E_POINTER, Create(nullptr));
     EXPECT_EQ(E_INVALIDARG,
               CoGetClassObject(kClass, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, nullptr));
@@ -227,7 +223,7 @@ TEST(ClassActivation, ManyThreadsMayActivateAtOnce) {
     Factory product(&unused);
     Factory factory(&product);
     DWORD cookie = 0;
-    ASSERT_EQ(S_OK, Register(&factory, &cookie));
+    ASSERT_EQ(S_OK, Serve(kClass, &factory, &cookie));
     std::atomic<int> created = 0;
     std::vector<std::thread> threads;
     for (int i = 0; i < 8; ++i) {

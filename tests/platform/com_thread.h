@@ -1,4 +1,5 @@
-/// Threads that start without COM, for tests of its state per thread and process.
+/// Threads that start without COM, for tests of its state per thread and process, and classes that
+/// are served in this process.
 #pragma once
 
 #include <functional>
@@ -21,5 +22,9 @@ class ComOnThread {
   ComOnThread(const ComOnThread&) = delete;
   ComOnThread& operator=(const ComOnThread&) = delete;
 };
+
+inline HRESULT Serve(REFCLSID clsid, IUnknown* factory, DWORD* cookie) {
+  return CoRegisterClassObject(clsid, factory, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, cookie);
+}
 
 }  // namespace tqcim::testing

@@ -114,18 +114,18 @@ TEST(StoreConcurrency, OfManyFirstUsersOneLoads) {
   EXPECT_EQ(failures, 0);
 }
 
-/// Of the two sources one has memory modules, the other none.
+/// A server without memory modules, which the sample has.
+constexpr const char* kBareServer = R"({
+  "format": "tqcim-store", "version": 1,
+  "objects": [
+    {"oid": 1, "type": "system", "status": "ok"},
+    {"oid": 2, "type": "chassis", "status": "ok", "parents": [1]}
+  ]
+})";
+
 TEST(StoreConcurrency, WalksOfTheLibraryStayWholeWhileSourcesAreOpened) {
   const testing::TemporaryFolder folder;
-  const std::string empty = "store-file:" + folder
-                                                .Write("empty.json", R"({
-    "format": "tqcim-store", "version": 1,
-    "objects": [
-      {"oid": 1, "type": "system", "status": "ok"},
-      {"oid": 2, "type": "chassis", "status": "ok", "parents": [1]}
-    ]
-  })")
-                                                .string();
+  const std::string bare = "store-file:" + folder.Write("bare.json", kBareServer).string();
   ASSERT_EQ(TQStoreOpen("sample", nullptr, 0), 0);
   std::atomic<int> failures{0};
   std::atomic<int> found{0};
@@ -145,7 +145,7 @@ TEST(StoreConcurrency, WalksOfTheLibraryStayWholeWhileSourcesAreOpened) {
   };
   const auto open = [&] {
     for (int i = 0; i < 30; ++i) {
-      if (TQStoreOpen(i % 2 == 0 ? empty.c_str() : "sample", nullptr, 0) != 0) ++failures;
+      if (TQStoreOpen(i % 2 == 0 ? bare.c_str() : "sample", nullptr, 0) != 0) ++failures;
     }
     opening = false;
   };

@@ -143,12 +143,7 @@ TEST_P(SensorPackageTest, ReadsNoObjectButTheDescription) {
 }
 
 TEST_P(SensorPackageTest, AChassisWithoutADescriptionIsNotAskedForItsSensors) {
-  ListChassis({2});
-  store.FailListing(2, 32);
-  store.RecordCalls();
-  EXPECT_EQ(0, EnumerateClass());
-  EXPECT_EQ((Texts{"convert RACK42-NODE0007", "children 1/17", "children 2/32", "free"}),
-            store.Calls());
+  ExpectDescriptionAskedForFirst(kName);
 }
 
 TEST_P(SensorPackageTest, ALongChassisNameIsCutAtTheEndOfThePath) {

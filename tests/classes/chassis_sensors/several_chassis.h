@@ -42,6 +42,16 @@ class SeveralChassisTest : public HandlerTest {
     store.List(chassisOid, type, oids);
   }
 
+  /// Expects an association to ask nothing more of a chassis without a description.
+  void ExpectDescriptionAskedForFirst(const char* className) {
+    ListChassis({2});
+    store.FailListing(2, 32);
+    store.RecordCalls();
+    EXPECT_EQ(0, Enumerate(className));
+    EXPECT_EQ((Texts{"convert RACK42-NODE0007", "children 1/17", "children 2/32", "free"}),
+              store.Calls());
+  }
+
   /// "Chassis 2: 240" for each pair delivered, in order: the chassis and the sensor's DeviceID.
   Texts Pairs() const {
     Texts pairs;

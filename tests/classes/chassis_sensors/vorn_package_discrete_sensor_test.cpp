@@ -37,12 +37,7 @@ TEST_F(VornPackageDiscreteSensorTest, PutsTheChassisThenTheSensor) {
 }
 
 TEST_F(VornPackageDiscreteSensorTest, AChassisWithoutADescriptionIsNotAskedForItsProbes) {
-  ListChassis({2});
-  store.FailListing(2, 32);
-  store.RecordCalls();
-  EXPECT_EQ(0, EnumerateClass());
-  EXPECT_EQ((Texts{"convert RACK42-NODE0007", "children 1/17", "children 2/32", "free"}),
-            store.Calls());
+  ExpectDescriptionAskedForFirst("VORN_PackageDiscreteSensor");
 }
 
 TEST_F(VornPackageDiscreteSensorTest, EachChassisIsPairedWithTheVoltageProbesOfLaterOnesToo) {

@@ -135,7 +135,7 @@ TEST(RegisteredClassesTest, ANameIsMatchedExactlyCaseIncluded) {
        {"", "VORN_", "vorn_system", "Vorn_System", "VORN_SYSTEM", "VORN_System ", " VORN_System",
         "VORN_SystemX", "VORN_Syste", "VORN_RemoteAccessServicePort", "VORN_SoftwareFeature",
         "Vorn_Baseboard", "Vorn_NetworkPort", "Vorn_SDCardDevice", "CIM_Fru", "CIM_SoftwareFeature",
-        "CIM_SoftwareElement", "Vorn_esmlog"}) {
+        "CIM_SoftwareElement", "CIM_System", "Vorn_esmlog"}) {
     try {
       Lookup(name);
       ADD_FAILURE() << name << " was found";

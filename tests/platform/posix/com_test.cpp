@@ -10,6 +10,7 @@ namespace {
 using tqcim::testing::ComOnThread;
 using tqcim::testing::CountedObject;
 using tqcim::testing::OnNewThread;
+using tqcim::testing::Serve;
 
 constexpr CLSID kClass = {0x3D2A60B1, 0x7C40, 0x4E55, {0x8A, 0x01, 1, 2, 3, 4, 5, 7}};
 
@@ -18,8 +19,7 @@ TEST(ClassActivation, AClassIsServedInItsContextOnly) {
     const ComOnThread com;
     CountedObject factory;
     DWORD cookie = 0;
-    ASSERT_EQ(S_OK, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
-                                          REGCLS_MULTIPLEUSE, &cookie));
+    ASSERT_EQ(S_OK, Serve(kClass, &factory, &cookie));
     void* object = &object;
     EXPECT_EQ(REGDB_E_CLASSNOTREG,
               CoGetClassObject(kClass, CLSCTX_LOCAL_SERVER, nullptr, IID_IUnknown, &object));
@@ -34,14 +34,11 @@ TEST(ClassActivation, AClassIsRegisteredOnce) {
     CountedObject factory;
     DWORD cookie = 0;
     DWORD second = 0;
-    ASSERT_EQ(S_OK, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
-                                          REGCLS_MULTIPLEUSE, &cookie));
-    EXPECT_EQ(CO_E_OBJISREG, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
-                                                   REGCLS_MULTIPLEUSE, &second));
+    ASSERT_EQ(S_OK, Serve(kClass, &factory, &cookie));
+    EXPECT_EQ(CO_E_OBJISREG, Serve(kClass, &factory, &second));
     EXPECT_EQ(1u, factory.References());
     EXPECT_EQ(S_OK, CoRevokeClassObject(cookie));
-    EXPECT_EQ(S_OK, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
-                                          REGCLS_MULTIPLEUSE, &second));
+    EXPECT_EQ(S_OK, Serve(kClass, &factory, &second));
     EXPECT_NE(cookie, second);
     EXPECT_EQ(S_OK, CoRevokeClassObject(second));
   });
@@ -74,8 +71,7 @@ TEST(ClassActivation, AFactoryIsHeldWhileItIsAsked) {
     const ComOnThread com;
     AskedFactory factory;
     DWORD cookie = 0;
-    ASSERT_EQ(S_OK, CoRegisterClassObject(kClass, &factory, CLSCTX_INPROC_SERVER,
-                                          REGCLS_MULTIPLEUSE, &cookie));
+    ASSERT_EQ(S_OK, Serve(kClass, &factory, &cookie));
     void* object = nullptr;
     EXPECT_EQ(E_NOINTERFACE,
               CoGetClassObject(kClass, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, &object));

@@ -13,6 +13,7 @@ using tqcim::RuntimeLedger;
 using tqcim::testing::ComOnThread;
 using tqcim::testing::CountedObject;
 using tqcim::testing::OnNewThread;
+using tqcim::testing::Serve;
 
 TEST(RuntimeLedger, CountsTexts) {
   const RuntimeLedger before = CurrentRuntimeLedger();
@@ -80,8 +81,7 @@ TEST(RuntimeLedger, CountsClasses) {
     CountedObject factory;
     const RuntimeLedger before = CurrentRuntimeLedger();
     DWORD cookie = 0;
-    CoRegisterClassObject(CLSID_WbemLocator, &factory, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE,
-                          &cookie);
+    Serve(CLSID_WbemLocator, &factory, &cookie);
     EXPECT_EQ(before.classes + 1, CurrentRuntimeLedger().classes);
     CoRevokeClassObject(cookie);
     EXPECT_EQ(before, CurrentRuntimeLedger());
